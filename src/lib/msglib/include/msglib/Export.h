@@ -1,0 +1,17 @@
+#pragma once
+
+/// Marks what the library makes public; every other symbol stays inside it.
+///
+/// `MSGLIB_STATIC` is defined for users of the static library and `MSGLIB_BUILDING` while the
+/// library itself is compiled. The CMake target sets both.
+#if defined(MSGLIB_STATIC)
+#define MSGLIB_API
+#elif defined(_WIN32)
+#if defined(MSGLIB_BUILDING)
+#define MSGLIB_API __declspec(dllexport)
+#else
+#define MSGLIB_API __declspec(dllimport)
+#endif
+#else
+#define MSGLIB_API __attribute__((visibility("default")))
+#endif

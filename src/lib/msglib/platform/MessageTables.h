@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+/// Finding a module by an address inside it, and fetching and converting a text of its message
+/// table.
+///
+/// The operations carry the names, numbers and conventions of the operating system that the library
+/// was designed for. A failure is a result of 0, with its reason in `GetLastError`. All of them may
+/// run on any number of threads.
+namespace zem::msglib::platform {
+
+/// A loaded module: where its image begins in memory. It owns nothing.
+using HMODULE = const void*;
+
+constexpr std::uint32_t FORMAT_MESSAGE_ALLOCATE_BUFFER = 0x100;
+constexpr std::uint32_t FORMAT_MESSAGE_IGNORE_INSERTS = 0x200;
+constexpr std::uint32_t FORMAT_MESSAGE_FROM_HMODULE = 0x800;
+constexpr std::uint32_t CP_UTF8 = 65001;
+
+/// The memory that an address lies in belongs to a loaded image, as
+/// `MEMORY_BASIC_INFORMATION::Type` tells it.
+constexpr std::uint32_t MEM_IMAGE = 0x1000000;
+
+/// What is known of the memory around one address.
+struct MEMORY_BASIC_INFORMATION {
+    void* BaseAddress;
+    void* AllocationBase; ///< the module that holds the address, if `Type` is `MEM_IMAGE`
+    std::uint32_t AllocationProtect;
+    std::uint16_t PartitionId;
+    std::size_t RegionSize;
+    std::uint32_t State;
+    std::uint32_t Protect;
+    std::uint32_t Type;
+};
+
+/// Describes the memory at `address` in `information`, which has `size` bytes.
+///
+/// Returns the bytes written. 0 means that nothing is known of the address; `information` is then
+/// unspecified.
+std::size_t VirtualQuery(const void* address, MEMORY_BASIC_INFORMATION* information,
+                         std::size_t size) noexcept;
+
+/// Fetches the text of one message, unexpanded, from the message table of `module`.
+///
+/// @param flags       `FORMAT_MESSAGE_ALLOCATE_BUFFER`, `FORMAT_MESSAGE_IGNORE_INSERTS` and
+///                    `FORMAT_MESSAGE_FROM_HMODULE` together; no other combination is supported
+/// @param module      a module found by `VirtualQuery`, still loaded
+/// @param messageId   the whole identifier
+/// @param languageId  the only language asked for
+/// @param buffer      the address of a `char16_t*`, passed as if it were the buffer itself; it
+/// receives a new
+///                    NUL-terminated text, to be released by `LocalFree`
+/// @param size        0
+/// @param arguments   null
+/// @return the UTF-16 units of the text without its terminator; 0 if the module has no such
+/// message, or an empty one,
+///         or if memory has run out
+std::uint32_t FormatMessageW(std::uint32_t flags, HMODULE module, std::uint32_t messageId,
+                             std::uint32_t languageId, char16_t* buffer, std::uint32_t size,
+                             void* arguments) noexcept;
+
+/// Converts `count` units of UTF-16 at `text` to the code page `CP_UTF8`, adding no terminator.
+///
+/// An unpaired surrogate becomes U+FFFD.
+///
+/// @param size  the bytes at `output`; 0, with a null `output`, asks for the length
+/// @return the bytes written or needed; 0 if `count` is not positive or `output` is too short
+int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t flags, const char16_t* text,
+                        int count, char* output, int size, const char* defaultCharacter,
+                        bool* usedDefaultCharacter) noexcept;
+
+/// Releases what `FormatMessageW` has allocated; null is allowed.
+void LocalFree(void* memory) noexcept;
+
+} // namespace zem::msglib::platform

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace zem::msglib::platform {
+
+/// A view of bytes that nothing is known of: every access is checked, and none needs alignment.
+///
+/// The bytes must outlive the view. Numbers are read in little-endian order; one that does not lie
+/// inside the view whole is 0.
+class Bytes {
+public:
+    constexpr Bytes() noexcept = default;
+    Bytes(const void* data, std::size_t size) noexcept
+        : data_(static_cast<const unsigned char*>(data)),
+          size_(size) {}
+
+    const unsigned char* data() const noexcept { return data_; }
+    std::size_t size() const noexcept { return size_; }
+
+    /// Tells whether `count` bytes from `offset` on lie inside.
+    bool holds(std::size_t offset, std::size_t count) const noexcept {
+        return offset <= size_ && count <= size_ - offset;
+    }
+
+    /// Returns `count` bytes from `offset` on, or none at all if they do not lie inside.
+    Bytes part(std::size_t offset, std::size_t count) const noexcept {
+        return holds(offset, count) ? Bytes(data_ + offset, count) : Bytes();
+    }
+
+    /// Returns what follows the first `offset` bytes.
+    Bytes from(std::size_t offset) const noexcept {
+        return offset <= size_ ? Bytes(data_ + offset, size_ - offset) : Bytes();
+    }
+
+    std::uint8_t u8(std::size_t offset) const noexcept {
+        return holds(offset, 1) ? data_[offset] : std::uint8_t{0};
+    }
+
+    std::uint16_t u16(std::size_t offset) const noexcept {
+        if (!holds(offset, 2)) {
+            return 0;
+        }
+        return static_cast<std::uint16_t>(data_[offset] | data_[offset + 1] << 8);
+    }
+
+    std::uint32_t u32(std::size_t offset) const noexcept {
+        if (!holds(offset, 4)) {
+            return 0;
+        }
+        return static_cast<std::uint32_t>(u16(offset)) | static_cast<std::uint32_t>(u16(offset + 2))
+                                                             << 16;
+    }
+
+private:
+    const unsigned char* data_ = nullptr;
+    std::size_t size_ = 0;
+};
+
+} // namespace zem::msglib::platform

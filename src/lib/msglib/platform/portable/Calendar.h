@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/LocaleServices.h"
+
+#include <cstddef>
+#include <cstdint>
+
+/// Gregorian calendar arithmetic without a loop, by Howard Hinnant's chrono-Compatible low-level
+/// date algorithms.
+///
+/// They count years from March, so that the leap day is the last of its year, in eras of 400 years.
+/// The first era here begins on 1600-03-01, 306 days before day 0, and nothing is ever negative.
+namespace zem::msglib::platform {
+
+/// The years that can be turned into a count and written.
+constexpr std::uint32_t firstYear = 1601;
+constexpr std::uint32_t lastYear = 30827;
+
+constexpr std::uint32_t eraYears = 400;
+constexpr std::uint32_t eraDays = 146097;
+constexpr std::uint32_t eraStartYear = 1600;
+constexpr std::uint32_t eraStartToDayZero = 306;
+
+/// A day of the calendar; month and day count from 1.
+struct CalendarDate {
+    std::uint32_t year;
+    std::uint32_t month;
+    std::uint32_t day;
+};
+
+/// Tells whether the year is in range and the calendar has the day.
+constexpr bool isCalendarDate(const CalendarDate& date) noexcept {
+    constexpr std::uint32_t monthDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    if (date.year < firstYear || date.year > lastYear || date.month < 1 || date.month > 12) {
+        return false;
+    }
+    const bool leap = date.year % 4 == 0 && (date.year % 100 != 0 || date.year % 400 == 0);
+    const std::uint32_t days =
+        date.month == 2 && leap ? 29 : monthDays[static_cast<std::size_t>(date.month) - 1];
+    return date.day >= 1 && date.day <= days;
+}
+
+/// Returns the days from 1601-01-01 to `date`, which `isCalendarDate` accepts.
+constexpr std::uint32_t daysOfDate(const CalendarDate& date) noexcept {
+    const bool beforeMarch = date.month <= 2;
+    const std::uint32_t year = date.year - eraStartYear - (beforeMarch ? 1 : 0);
+    const std::uint32_t month = beforeMarch ? date.month + 9 : date.month - 3;
+    const std::uint32_t dayOfYear = (153 * month + 2) / 5 + date.day - 1;
+    const std::uint32_t yearOfEra = year % eraYears;
+    const std::uint32_t dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
+    return year / eraYears * eraDays + dayOfEra - eraStartToDayZero;
+}
+
+/// Returns the date that lies `days` days, at most four billion, behind 1601-01-01.
+constexpr CalendarDate dateOfDays(std::uint32_t days) noexcept {
+    const std::uint32_t sinceEraStart = days + eraStartToDayZero;
+    const std::uint32_t dayOfEra = sinceEraStart % eraDays;
+    const std::uint32_t yearOfEra =
+        (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
+    const std::uint32_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
+    const std::uint32_t month = (5 * dayOfYear + 2) / 153;
+    const bool beforeMarch = month >= 10;
+    return {eraStartYear + sinceEraStart / eraDays * eraYears + yearOfEra + (beforeMarch ? 1 : 0),
+            beforeMarch ? month - 9 : month + 3, dayOfYear - (153 * month + 2) / 5 + 1};
+}
+
+/// Returns the week day of the day `days` behind 1601-01-01, which was a Monday; Sunday is 0.
+constexpr std::uint32_t weekDayOfDays(std::uint32_t days) noexcept {
+    return (days + 1) % 7;
+}
+
+/// Returns the date of `time`, whether the calendar has it or not.
+constexpr CalendarDate dateOf(const SYSTEMTIME& time) noexcept {
+    return {time.wYear, time.wMonth, time.wDay};
+}
+
+/// Tells whether hour, minute, second and milliseconds are those of a day without leap seconds.
+constexpr bool isTimeOfDay(const SYSTEMTIME& time) noexcept {
+    return time.wHour <= 23 && time.wMinute <= 59 && time.wSecond <= 59 &&
+           time.wMilliseconds <= 999;
+}
+
+} // namespace zem::msglib::platform

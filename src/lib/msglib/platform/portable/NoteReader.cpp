@@ -1,0 +1,66 @@
+#include "platform/portable/NoteReader.h"
+
+#include <cstring>
+
+namespace zem::msglib::platform {
+
+namespace {
+
+constexpr char tableName[] = "zem.msglib";
+constexpr std::uint32_t tableType = 0x4d544231;
+constexpr std::size_t noteHeaderSize = 12;
+constexpr std::size_t tableHeaderSize = 8;
+
+/// Reads a number that the assembler has written, in the byte order of the machine.
+std::uint32_t nativeU32(Bytes bytes, std::size_t offset) noexcept {
+    std::uint32_t value = 0;
+    if (bytes.holds(offset, sizeof value)) {
+        std::memcpy(&value, bytes.data() + offset, sizeof value);
+    }
+    return value;
+}
+
+bool isTable(Bytes name, std::uint32_t type) noexcept {
+    return type == tableType && name.size() == sizeof tableName &&
+           std::memcmp(name.data(), tableName, sizeof tableName) == 0;
+}
+
+std::optional<MessageText> findInTable(Bytes descriptor, std::uint32_t languageId,
+                                       std::uint32_t messageId) noexcept {
+    if (!descriptor.holds(0, tableHeaderSize) || nativeU32(descriptor, 0) != languageId) {
+        return std::nullopt;
+    }
+    const Bytes table = descriptor.part(tableHeaderSize, nativeU32(descriptor, 4));
+    return TableReader(table).find(messageId);
+}
+
+} // namespace
+
+std::optional<MessageText> findInNotes(Bytes notes, std::size_t alignment, std::uint32_t languageId,
+                                       std::uint32_t messageId) noexcept {
+    const std::uint64_t unit = alignment == 8 ? 8 : 4;
+    const auto aligned = [unit](std::uint64_t offset) { return (offset + unit - 1) / unit * unit; };
+    // 64 bits, so that two lengths of 32 bits cannot wrap on any machine.
+    std::uint64_t offset = 0;
+    while (offset < notes.size()) {
+        const Bytes rest = notes.from(static_cast<std::size_t>(offset));
+        const std::uint32_t nameSize = nativeU32(rest, 0);
+        const std::uint32_t descriptorSize = nativeU32(rest, 4);
+        const std::uint64_t descriptorAt = aligned(noteHeaderSize + std::uint64_t{nameSize});
+        const std::uint64_t end = descriptorAt + descriptorSize;
+        if (end > rest.size()) {
+            return std::nullopt;
+        }
+        if (isTable(rest.part(noteHeaderSize, nameSize), nativeU32(rest, 8))) {
+            const Bytes descriptor =
+                rest.part(static_cast<std::size_t>(descriptorAt), descriptorSize);
+            if (auto text = findInTable(descriptor, languageId, messageId)) {
+                return text;
+            }
+        }
+        offset += aligned(end);
+    }
+    return std::nullopt;
+}
+
+} // namespace zem::msglib::platform

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/portable/Bytes.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace zem::msglib::platform {
+
+/// The text of one message where it lies in its table, as UTF-16 units.
+///
+/// It ends before the first NUL, or where its entry ends.
+class MessageText {
+public:
+    /// @param bytes      the text of an entry, without the header of the entry
+    /// @param unitBytes  2 for UTF-16, 1 for bytes that are code points themselves
+    MessageText(Bytes bytes, std::size_t unitBytes) noexcept;
+
+    std::size_t length() const noexcept { return length_; }
+
+    char16_t operator[](std::size_t index) const noexcept {
+        return unitBytes_ == 2 ? static_cast<char16_t>(bytes_.u16(index * 2))
+                               : static_cast<char16_t>(bytes_.u8(index));
+    }
+
+private:
+    Bytes bytes_;
+    std::size_t unitBytes_;
+    std::size_t length_ = 0;
+};
+
+/// Reads a compiled message table.
+///
+///     table  = count block* entry*            count: u32
+///     block  = lowest highest offset          u32 each; blocks ascend, offset counts from the
+///     table's first byte entry  = length flags text              u16 each; length includes this
+///     header, flags 1 means UTF-16
+///
+/// A block names the identifiers from lowest to highest and the first of their entries; the others
+/// follow it without a gap. Any bytes may be handed in: a table that is damaged lacks messages or
+/// has other texts, and nothing outside it is read.
+class TableReader {
+public:
+    explicit TableReader(Bytes table) noexcept : table_(table) {}
+
+    /// Returns the text of `messageId`, unless there is none or it is empty.
+    ///
+    /// Takes a binary search over the blocks and a walk inside one of them.
+    std::optional<MessageText> find(std::uint32_t messageId) const noexcept;
+
+private:
+    std::size_t blockFor(std::uint32_t messageId) const noexcept;
+    std::optional<MessageText> textAt(std::size_t offset,
+                                      std::uint32_t entriesToSkip) const noexcept;
+
+    Bytes table_;
+};
+
+} // namespace zem::msglib::platform

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/portable/LastError.h"
+
+#include <charconv>
+#include <cstddef>
+#include <iterator>
+#include <limits>
+#include <string_view>
+
+namespace zem::msglib::platform {
+
+/// Writes text into a caller's buffer and counts it, so that asking for a length and writing share
+/// their code.
+///
+/// What doesn't fit is counted and dropped. Size 0 asks: then nothing fits, and the buffer may be
+/// null.
+class TextBuffer {
+public:
+    /// Tells whether `size` bytes at `buffer` can be written to, or are no bytes at all.
+    static constexpr bool accepts(const char* buffer, int size) noexcept {
+        return size == 0 || (size > 0 && buffer != nullptr);
+    }
+
+    /// Requires what `accepts` tests.
+    TextBuffer(char* buffer, int size) noexcept
+        : buffer_(buffer),
+          size_(static_cast<std::size_t>(size)) {}
+
+    void append(char byte) noexcept {
+        if (length_ < size_) {
+            buffer_[length_] = byte;
+        }
+        ++length_;
+    }
+
+    void append(std::string_view text) noexcept {
+        for (const char byte : text) {
+            append(byte);
+        }
+    }
+
+    /// Appends `number` in decimal, with leading zeros up to `width` digits.
+    void append(unsigned int number, std::size_t width) noexcept {
+        char digits[std::numeric_limits<unsigned int>::digits10 + 1];
+        const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+        const auto count = static_cast<std::size_t>(end - digits);
+        for (std::size_t zeros = count; zeros < width; ++zeros) {
+            append('0');
+        }
+        append(std::string_view(digits, count));
+    }
+
+    /// Appends the terminator and returns the length with it; 0 for a buffer that was too short
+    /// (122) and for a length beyond `int` (87).
+    int finish() noexcept {
+        append('\0');
+        if (size_ != 0 && length_ > size_) {
+            setLastError(ERROR_INSUFFICIENT_BUFFER);
+            return 0;
+        }
+        if (length_ > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+            setLastError(ERROR_INVALID_PARAMETER);
+            return 0;
+        }
+        return static_cast<int>(length_);
+    }
+
+private:
+    char* buffer_;
+    std::size_t size_;
+    std::size_t length_ = 0;
+};
+
+} // namespace zem::msglib::platform

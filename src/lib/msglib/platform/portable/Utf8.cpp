@@ -1,0 +1,82 @@
+#include "platform/MessageTables.h"
+#include "platform/portable/LastError.h"
+
+#include <array>
+#include <climits>
+#include <cstddef>
+#include <cstring>
+
+namespace zem::msglib::platform {
+
+namespace {
+
+constexpr char32_t replacementCharacter = 0xFFFD;
+
+bool isHighSurrogate(char32_t unit) noexcept {
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+bool isLowSurrogate(char32_t unit) noexcept {
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
+/// Takes one code point off the front of `text`, which is not empty.
+char32_t nextCodePoint(const char16_t*& text, const char16_t* end) noexcept {
+    const char32_t unit = *text++;
+    if (isHighSurrogate(unit) && text != end && isLowSurrogate(*text)) {
+        return 0x10000 + ((unit - 0xD800) << 10) + (*text++ - char32_t{0xDC00});
+    }
+    return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacementCharacter : unit;
+}
+
+/// The bytes of one code point.
+struct Sequence {
+    std::array<char, 4> bytes;
+    std::size_t size;
+};
+
+Sequence encode(char32_t code) noexcept {
+    const auto lead = [code](unsigned mark, int shift) {
+        return static_cast<char>(mark | code >> shift);
+    };
+    const auto trail = [code](int shift) {
+        return static_cast<char>(0x80 | (code >> shift & 0x3F));
+    };
+    if (code < 0x80) {
+        return {{lead(0, 0)}, 1};
+    }
+    if (code < 0x800) {
+        return {{lead(0xC0, 6), trail(0)}, 2};
+    }
+    if (code < 0x10000) {
+        return {{lead(0xE0, 12), trail(6), trail(0)}, 3};
+    }
+    return {{lead(0xF0, 18), trail(12), trail(6), trail(0)}, 4};
+}
+
+} // namespace
+
+int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t, const char16_t* text, int count,
+                        char* output, int size, const char*, bool*) noexcept {
+    const bool measuring = size == 0;
+    if (codePage != CP_UTF8 || text == nullptr || count <= 0 || size < 0 ||
+        (output == nullptr && !measuring)) {
+        setLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    const auto room = static_cast<std::size_t>(measuring ? INT_MAX : size);
+    std::size_t written = 0;
+    for (const char16_t* end = text + count; text != end;) {
+        const Sequence sequence = encode(nextCodePoint(text, end));
+        if (sequence.size > room - written) {
+            setLastError(ERROR_INSUFFICIENT_BUFFER);
+            return 0;
+        }
+        if (!measuring) {
+            std::memcpy(output + written, sequence.bytes.data(), sequence.size);
+        }
+        written += sequence.size;
+    }
+    return static_cast<int>(written);
+}
+
+} // namespace zem::msglib::platform

@@ -1,0 +1,12 @@
+#include "platform/LastError.h"
+
+// The system's header comes last: it defines macros of the same names as the constants above.
+#include <windows.h>
+
+namespace zem::msglib::platform {
+
+std::uint32_t GetLastError() noexcept {
+    return ::GetLastError();
+}
+
+} // namespace zem::msglib::platform

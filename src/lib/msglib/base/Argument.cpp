@@ -1,0 +1,48 @@
+#include "base/Argument.h"
+
+#include <typeinfo>
+
+namespace zem::msglib {
+
+namespace {
+
+struct KindOfType {
+    const std::type_info* type;
+    ArgumentKind kind;
+};
+
+const KindOfType kindsOfTypes[] = {
+    {&typeid(std::string), ArgumentKind::Text},
+    {&typeid(int), ArgumentKind::Int},
+    {&typeid(double), ArgumentKind::Double},
+    {&typeid(unsigned int), ArgumentKind::UnsignedInt},
+    {&typeid(long long), ArgumentKind::LongLong},
+    {&typeid(unsigned long long), ArgumentKind::UnsignedLongLong},
+    {&typeid(long), ArgumentKind::Long},
+    {&typeid(unsigned long), ArgumentKind::UnsignedLong},
+    {&typeid(short), ArgumentKind::Short},
+    {&typeid(unsigned short), ArgumentKind::UnsignedShort},
+    {&typeid(bool), ArgumentKind::Bool},
+    {&typeid(float), ArgumentKind::Float},
+    {&typeid(geom::Angle), ArgumentKind::Angle},
+};
+
+} // namespace
+
+ArgumentKind kindOf(const boost::any& argument) noexcept {
+    const std::type_info& held = argument.type();
+    for (const KindOfType& row : kindsOfTypes) {
+        if (&held == row.type) {
+            return row.kind;
+        }
+    }
+    // Another module may have a type identity of its own for the same type.
+    for (const KindOfType& row : kindsOfTypes) {
+        if (held == *row.type) {
+            return row.kind;
+        }
+    }
+    return ArgumentKind::Other;
+}
+
+} // namespace zem::msglib

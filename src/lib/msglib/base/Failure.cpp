@@ -1,0 +1,45 @@
+#include "base/Failure.h"
+
+#include <stdexcept>
+
+namespace zem::msglib {
+
+namespace {
+
+const char* wordsOf(Failure failure) noexcept {
+    switch (failure) {
+    case Failure::InvalidMessageId: return "Invalid message ID";
+    case Failure::UnconvertibleMessage: return "Unable to convert message string";
+    case Failure::UnexpectedClosingBrace: return "unexpected closing brace";
+    case Failure::IllegalArgument: return "Illegal argument in format string";
+    case Failure::ArgumentIndexTooHigh:
+        return "Argument index in format exceeds number of specified arguments";
+    case Failure::InvalidArgument: return "Invalid argument";
+    case Failure::ChoiceStyleMissing: return "style_ required for choice format";
+    case Failure::NotANumber: return "Argument is not a number.";
+    case Failure::DigitMarkAfterZero: return "digit mark (#) following zero-index";
+    case Failure::ZeroMarkAfterDigit: return "zero mark following digit";
+    case Failure::DigitMarkAfterZeroInExponent: return "digit mark (#) following zero in exponent";
+    case Failure::MultiplierAlreadySet: return "multiplier already set";
+    case Failure::SeparatorExpected: return "separator character expected";
+    case Failure::EndOfPatternExpected: return "end of pattern expected";
+    case Failure::ChoiceSyntax: return "Syntax error in choice format.";
+    case Failure::InvalidDateArgument: return "Invalid date argument type";
+    case Failure::AddressInNoModule: return "Address is not inside a loaded module";
+    case Failure::LongOutOfRange: return "Value of type long is outside its 32-bit range";
+    }
+    return "";
+}
+
+} // namespace
+
+void raise(Failure failure) {
+    const char* words = wordsOf(failure);
+    switch (failure) {
+    case Failure::AddressInNoModule: throw std::invalid_argument(words);
+    case Failure::LongOutOfRange: throw std::out_of_range(words);
+    default: throw std::runtime_error(words);
+    }
+}
+
+} // namespace zem::msglib

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/LocaleServices.h"
+
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace zem::msglib {
+
+/// One value of the platform's fixed locale, in a buffer of `Size` bytes. A failed query reads as
+/// the empty text.
+template <int Size>
+class LocaleValue {
+public:
+    /// Asks the platform for the value `lctype`.
+    explicit LocaleValue(std::uint32_t lctype) noexcept
+        : found_(platform::GetLocaleInfoA(platform::localeIdentifier, lctype, buffer_, Size) != 0) {
+        buffer_[found_ ? Size - 1 : 0] = '\0';
+    }
+
+    /// Tells whether the platform had the value.
+    bool found() const noexcept { return found_; }
+
+    /// Returns the bytes up to the terminator. They live as long as this object.
+    std::string_view text() const noexcept { return c_str(); }
+
+    /// The same as a C string.
+    const char* c_str() const noexcept { return buffer_; }
+
+    /// Returns the first byte, NUL for the empty text.
+    char first() const noexcept { return buffer_[0]; }
+
+private:
+    char buffer_[Size];
+    bool found_;
+};
+
+using LocaleNumberValue = LocaleValue<64>;
+using LocaleDateValue = LocaleValue<81>;
+
+} // namespace zem::msglib

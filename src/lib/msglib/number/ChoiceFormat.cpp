@@ -1,0 +1,108 @@
+#include "msglib/ChoiceFormat.h"
+
+#include "base/Argument.h"
+#include "base/Extraction.h"
+
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+namespace zem::msglib {
+
+namespace {
+
+// Collects a result text from `pos` and returns the position of the terminator, or the pattern's
+// end.
+std::size_t parseText(const std::string& pattern, std::size_t pos, std::string& text) {
+    std::size_t depth = 1;
+    while (pos < pattern.size()) {
+        const char c = pattern[pos];
+        const std::size_t behind = pattern.size() - pos - 1;
+        if (c == '\'' && behind > 0 && pattern[pos + 1] == '\'') {
+            text.push_back(c);
+            pos += 2;
+            continue;
+        }
+        if (c == '\'' && behind > 1) {
+            text.push_back(pattern[pos + 1]);
+            pos += 3;
+            continue;
+        }
+        if (c == '{') {
+            ++depth;
+        } else if (c == '}') {
+            --depth;
+        }
+        if (depth == 0 || (c == '|' && depth == 1)) {
+            return pos;
+        }
+        text.push_back(c);
+        ++pos;
+    }
+    return pos;
+}
+
+} // namespace
+
+ChoiceFormat::ChoiceFormat(const std::string& pattern) {
+    applyPattern(pattern);
+}
+
+ChoiceFormat::~ChoiceFormat() = default;
+
+void ChoiceFormat::applyPattern(const std::string& pattern) {
+    choices_.clear();
+    std::size_t pos = 0;
+    for (;;) {
+        const std::size_t separator = pattern.find_first_of("#+<", pos);
+        if (separator == std::string::npos) {
+            raise(Failure::ChoiceSyntax);
+        }
+        ChoiceEntry entry{extractDouble(pattern.substr(pos, separator - pos)), {}};
+        if (pattern[separator] != '#') {
+            entry.limit = nextDouble(entry.limit);
+        }
+        pos = parseText(pattern, separator + 1, entry.text);
+        choices_.push_back(std::move(entry));
+        if (pos == pattern.size()) {
+            return;
+        }
+        ++pos;
+    }
+}
+
+std::string& ChoiceFormat::format(long value, std::string& out) const {
+    return format(static_cast<double>(checkedLong(value)), out);
+}
+
+std::string& ChoiceFormat::format(double value, std::string& out) const {
+    if (choices_.empty()) {
+        return out;
+    }
+    auto chosen = choices_.begin();
+    if (std::isnan(value) || value < chosen->limit) {
+        return out += chosen->text;
+    }
+    for (auto next = std::next(chosen); next != choices_.end(); chosen = next++) {
+        if (value >= chosen->limit && next->limit > value) {
+            break;
+        }
+    }
+    return out += chosen->text;
+}
+
+double ChoiceFormat::nextDouble(double value) {
+    return std::isfinite(value) ? std::nextafter(value, std::numeric_limits<double>::max()) : value;
+}
+
+double ChoiceFormat::previousDouble(double value) {
+    return std::isfinite(value) ? std::nextafter(value, std::numeric_limits<double>::lowest())
+                                : value;
+}
+
+double ChoiceFormat::nextDouble(double value, bool positive) {
+    return positive ? nextDouble(value) : previousDouble(value);
+}
+
+} // namespace zem::msglib

@@ -1,0 +1,41 @@
+#include "msglib/MessageFormat.h"
+
+#include "base/Failure.h"
+#include "message/FormatElement.h"
+#include "message/MessageRenderer.h"
+
+namespace zem::msglib {
+
+MessageFormat::MessageFormat() = default;
+
+MessageFormat::MessageFormat(const std::string& pattern) {
+    applyPattern(pattern);
+}
+
+MessageFormat::MessageFormat(const MessageFormat& other) = default;
+
+MessageFormat& MessageFormat::operator=(const MessageFormat& other) = default;
+
+MessageFormat::~MessageFormat() = default;
+
+std::string& MessageFormat::format(const std::list<boost::any>& args, std::string& out) const {
+    MessageRenderer(args, locale_, out).render(*this);
+    return out;
+}
+
+std::string& MessageFormat::format(const boost::any& value, std::string& out) const {
+    const auto* args = boost::any_cast<const std::list<boost::any>*>(value);
+    if (args == nullptr) {
+        raise(Failure::InvalidArgument);
+    }
+    return format(*args, out);
+}
+
+void MessageFormat::setLocale(const std::locale& locale) {
+    locale_ = locale;
+    for (FormatElement& element : elements_) {
+        element.buildFormat(locale);
+    }
+}
+
+} // namespace zem::msglib

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "message/FormatElement.h"
+
+#include <boost/any.hpp>
+
+#include <cstddef>
+#include <list>
+#include <locale>
+#include <string>
+
+namespace zem::msglib {
+
+class MessageFormat;
+
+/// One rendering of one message. It borrows the arguments, the locale and the string that it
+/// appends to.
+class MessageRenderer {
+public:
+    MessageRenderer(const std::list<boost::any>& args, const std::locale& locale, std::string& out)
+        : args_(args),
+          argument_(args.begin()),
+          locale_(locale),
+          out_(out) {}
+
+    /// Appends `message` with the arguments; fails as `MessageFormat::format` does.
+    void render(const MessageFormat& message);
+
+private:
+    void renderElement(const FormatElement& element);
+    void renderByKind(const boost::any& argument);
+    void expandChoice(const FormatElement& element, const boost::any& argument);
+    const boost::any& argumentAt(int index);
+
+    const std::list<boost::any>& args_;
+    std::list<boost::any>::const_iterator argument_;
+    std::size_t position_ = 0; // of argument_ in args_
+    const std::locale& locale_;
+    std::string& out_;
+
+    // What a choice has brought up and is still to be rendered, so that no nesting uses the machine
+    // stack.
+    std::list<FormatElement> pending_;
+};
+
+} // namespace zem::msglib

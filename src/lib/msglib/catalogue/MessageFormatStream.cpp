@@ -1,0 +1,139 @@
+#include "msglib/MessageFormatStream.h"
+
+#include "base/Argument.h"
+#include "msglib/MessageLibrary.h"
+
+#include <boost/any.hpp>
+
+#include <list>
+#include <utility>
+
+namespace zem::msglib {
+
+struct MessageFormatStream::Impl {
+    unsigned int messageId_ = 0;
+    const char* pattern_ = nullptr; // borrowed; null: the identifier counts
+    std::list<boost::any> args_;
+    std::string text_;
+
+    std::string rendered() const {
+        const MessageLibrary& library = MessageLibrary::instance();
+        return pattern_ != nullptr ? library.formatMessage(std::string(pattern_), args_)
+                                   : library.formatMessage(messageId_, args_);
+    }
+
+    void add(boost::any&& argument) { args_.push_back(std::move(argument)); }
+};
+
+MessageFormatStream::MessageFormatStream(unsigned int messageId) : impl_(std::make_unique<Impl>()) {
+    impl_->messageId_ = messageId;
+}
+
+MessageFormatStream::MessageFormatStream(const char* pattern) : impl_(std::make_unique<Impl>()) {
+    impl_->pattern_ = pattern;
+}
+
+MessageFormatStream::MessageFormatStream(const MessageFormatStream& other)
+    : impl_(std::make_unique<Impl>(*other.impl_)) {}
+
+MessageFormatStream::MessageFormatStream(MessageFormatStream&& other) noexcept = default;
+
+MessageFormatStream& MessageFormatStream::operator=(const MessageFormatStream& other) {
+    return *this = MessageFormatStream(other);
+}
+
+MessageFormatStream& MessageFormatStream::operator=(MessageFormatStream&& other) noexcept = default;
+
+MessageFormatStream::~MessageFormatStream() = default;
+
+unsigned int MessageFormatStream::messageId() const {
+    return impl_->messageId_;
+}
+
+std::string MessageFormatStream::toString() const {
+    return impl_->text_ += impl_->rendered();
+}
+
+MessageFormatStream& MessageFormatStream::append(const MessageFormatStream& other) {
+    if (this == &other) {
+        toString();
+        return *this;
+    }
+    // Whatever fails comes before the first change.
+    std::list<boost::any> args(other.impl_->args_);
+    impl_->text_ += impl_->rendered();
+    impl_->messageId_ = other.impl_->messageId_;
+    impl_->pattern_ = other.impl_->pattern_;
+    impl_->args_ = std::move(args);
+    return *this;
+}
+
+namespace {
+
+MessageFormatStream& changed(const MessageFormatStream& stream) {
+    return const_cast<MessageFormatStream&>(stream);
+}
+
+} // namespace
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, char value) {
+    stream.impl_->add(std::string(1, value));
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, int value) {
+    stream.impl_->add(value);
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, long value) {
+    stream.impl_->add(checkedLong(value));
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, long long value) {
+    stream.impl_->add(value);
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, unsigned int value) {
+    stream.impl_->add(value);
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, unsigned long value) {
+    stream.impl_->add(checkedLong(value));
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, unsigned long long value) {
+    stream.impl_->add(value);
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, double value) {
+    stream.impl_->add(value);
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, const char* value) {
+    stream.impl_->add(std::string(value));
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, const std::string& value) {
+    stream.impl_->add(value);
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream, const std::string_view& value) {
+    stream.impl_->add(std::string(value));
+    return changed(stream);
+}
+
+MessageFormatStream& operator<<(const MessageFormatStream& stream,
+                                const MessageFormatStream& value) {
+    return changed(stream).append(value);
+}
+
+} // namespace zem::msglib

@@ -1,43 +1,43 @@
 #include "base/Extraction.h"
 
 #include <sstream>
-#include <string_view>
 
 namespace zem::msglib {
 
-namespace {
-
-// At most nine digits and nothing else; they fit an `int`, and no locale reads them in another way.
-std::optional<int> plainDigits(std::string_view text) noexcept {
-    if (text.empty() || text.size() > 9) {
-        return std::nullopt;
-    }
-    int value = 0;
-    for (const char c : text) {
-        if (c < '0' || c > '9') {
-            return std::nullopt;
+std::size_t readDigits(std::string_view text, std::size_t position, int& value) noexcept {
+    constexpr std::size_t most = 9;
+    int number = 0;
+    std::size_t count = 0;
+    for (; position < text.size() && text[position] >= '0' && text[position] <= '9'; ++position) {
+        if (++count > most) {
+            return 0;
         }
-        value = value * 10 + (c - '0');
+        number = number * 10 + (text[position] - '0');
     }
-    return value;
+    if (count > 0) {
+        value = number;
+    }
+    return count;
 }
 
-} // namespace
-
-std::optional<int> extractInt(const std::string& text) {
-    if (const auto digits = plainDigits(text)) {
-        return digits;
+bool extractInt(const std::string& text, int& value) {
+    if (const std::size_t digits = readDigits(text, 0, value);
+        digits > 0 && digits == text.size()) {
+        return true;
     }
-    int value = 0;
-    if (std::istringstream(text) >> value) {
-        return value;
+    int extracted = 0;
+    if (!(std::istringstream(text) >> extracted)) {
+        return false;
     }
-    return std::nullopt;
+    value = extracted;
+    return true;
 }
 
 double extractDouble(const std::string& text) {
-    if (const auto digits = plainDigits(text)) {
-        return *digits;
+    int whole = 0;
+    if (const std::size_t digits = readDigits(text, 0, whole);
+        digits > 0 && digits == text.size()) {
+        return whole;
     }
     double value = 0.0;
     std::istringstream(text) >> value;

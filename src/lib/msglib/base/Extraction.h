@@ -1,9 +1,15 @@
 #pragma once
 
-#include <optional>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
+
+/// Reads the decimal digits from `position` on into `value`, at most nine, which any `int` holds.
+///
+/// @return how many there are; `value` is unchanged if there are none or more than nine
+std::size_t readDigits(std::string_view text, std::size_t position, int& value) noexcept;
 
 /// Reads the number that `text` begins with exactly as formatted extraction from a stream would, by
 /// the global `std::locale`: leading white space is skipped, and what follows the number is
@@ -11,8 +17,8 @@ namespace zem::msglib {
 ///
 /// Plain digits take a short way to the same value.
 ///
-/// @return nothing if there is no number, or none in the range of `int`
-std::optional<int> extractInt(const std::string& text);
+/// @return whether there is a number in the range of `int`; `value` is unchanged if not
+bool extractInt(const std::string& text, int& value);
 
 /// The same for a `double`; what extraction leaves in a variable that was 0.0, if there is no
 /// number.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace zem::msglib {
@@ -21,9 +22,9 @@ public:
 
     void append(PictureOperation operation, const std::string& picture, std::string& out) {
         int written = write(operation, picture, buffer(), size());
-        if (written == 0 && platform::GetLastError() == platform::ERROR_INSUFFICIENT_BUFFER) {
-            grown_.resize(static_cast<std::size_t>(write(operation, picture, nullptr, 0)));
-            written = write(operation, picture, grown_.data(), size());
+        if (written == 0 && platform::GetLastError() == platform::ERROR_INSUFFICIENT_BUFFER &&
+            grow(write(operation, picture, nullptr, 0))) {
+            written = write(operation, picture, buffer(), size());
         }
         if (written != 0) {
             out.append(buffer(), textLength());
@@ -34,6 +35,14 @@ private:
     int write(PictureOperation operation, const std::string& picture, char* buffer,
               int size) const noexcept {
         return operation(platform::localeIdentifier, 0, &time_, picture.c_str(), buffer, size);
+    }
+
+    // Makes room for the length that the platform asks for, which is 0 if it doesn't tell.
+    bool grow(int needed) {
+        if (needed > size()) {
+            grown_.resize(static_cast<std::size_t>(needed));
+        }
+        return needed > 0;
     }
 
     char* buffer() noexcept { return grown_.empty() ? first_ : grown_.data(); }
@@ -48,6 +57,18 @@ private:
     char first_[64] = {};
     std::vector<char> grown_;
 };
+
+bool contains(const std::string& letters, char c) noexcept {
+    return std::find(letters.begin(), letters.end(), c) != letters.end();
+}
+
+std::size_t endOfRun(const std::string& pattern, std::size_t pos) noexcept {
+    std::size_t end = pos + 1;
+    while (end < pattern.size() && pattern[end] == pattern[pos]) {
+        ++end;
+    }
+    return end;
+}
 
 // Appends quoted text from behind its opening quote and returns the position from which to go on.
 std::size_t appendQuoted(const std::string& pattern, std::size_t pos, std::string& out) {
@@ -71,6 +92,10 @@ SimpleDateFormat::SimpleDateFormat(const std::string& pattern, const std::locale
     : pattern_(pattern),
       locale_(locale) {}
 
+SimpleDateFormat::SimpleDateFormat(std::string&& pattern, const std::locale& locale)
+    : pattern_(std::move(pattern)),
+      locale_(locale) {}
+
 SimpleDateFormat::~SimpleDateFormat() = default;
 
 void SimpleDateFormat::applyPattern(const std::string& pattern) {
@@ -88,13 +113,13 @@ std::string& SimpleDateFormat::format(const boost::any& value, std::string& out)
             pos = appendQuoted(pattern_, pos + 1, out);
             continue;
         }
-        const bool isDate = datePatternChars_.find(c) != std::string::npos;
-        if (!isDate && timePatternChars_.find(c) == std::string::npos) {
+        const bool isDate = contains(datePatternChars_, c);
+        if (!isDate && !contains(timePatternChars_, c)) {
             out.push_back(c);
             ++pos;
             continue;
         }
-        const std::size_t end = std::min(pattern_.find_first_not_of(c, pos), pattern_.size());
+        const std::size_t end = endOfRun(pattern_, pos);
         if (time) {
             const auto operation = isDate ? platform::GetDateFormatA : platform::GetTimeFormatA;
             runs.append(operation, std::string(end - pos, c), out);

@@ -2,6 +2,7 @@
 
 #include "base/Argument.h"
 #include "base/Extraction.h"
+#include "base/Scanning.h"
 
 #include <cmath>
 #include <iterator>
@@ -17,14 +18,14 @@ namespace {
 std::size_t parseText(const std::string& pattern, std::size_t pos, std::string& text) {
     std::size_t depth = 1;
     while (pos < pattern.size()) {
-        const char c = pattern[pos];
-        const std::size_t behind = pattern.size() - pos - 1;
-        if (c == '\'' && behind > 0 && pattern[pos + 1] == '\'') {
-            text.push_back(c);
-            pos += 2;
-            continue;
+        const std::size_t syntax = findSyntax(pattern, pos, '|');
+        text.append(pattern, pos, syntax - pos);
+        pos = syntax;
+        if (pos == pattern.size()) {
+            break;
         }
-        if (c == '\'' && behind > 1) {
+        const char c = pattern[pos];
+        if (c == quote && !holdsAt(pattern, pos + 1, quote) && pattern.size() - pos > 2) {
             text.push_back(pattern[pos + 1]);
             pos += 3;
             continue;
@@ -35,10 +36,10 @@ std::size_t parseText(const std::string& pattern, std::size_t pos, std::string& 
             --depth;
         }
         if (depth == 0 || (c == '|' && depth == 1)) {
-            return pos;
+            break;
         }
         text.push_back(c);
-        ++pos;
+        pos += c == quote && holdsAt(pattern, pos + 1, quote) ? 2 : 1;
     }
     return pos;
 }

@@ -1,47 +1,20 @@
 #include "msglib/DecimalFormat.h"
 
 #include "base/Argument.h"
+#include "number/DigitWriter.h"
 #include "number/PowersOfTen.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace zem::msglib {
 
 namespace {
 
-// Below this a double holds every integer, and division by ten rounds to the right quotient, so
-// that integers give the same digits as doubles.
-constexpr double exactIntegers = 0x1p53;
-
-// The largest finite double has 309 digits.
-constexpr std::size_t mostIntegerDigits = 320;
-
-// A fraction is a multiple of 2 to the power -1074. Each multiplication by ten takes one factor of
-// two away, so nothing is left behind as many digits.
-constexpr std::size_t mostFractionDigits = 1074;
-
-char* writeUnitsFirst(std::uint64_t whole, char zero, char* end) {
-    for (; whole > 0; whole /= 10) {
-        *end++ = static_cast<char>(zero + static_cast<int>(whole % 10));
-    }
-    return end;
-}
-
-char* writeUnitsFirst(double whole, char zero, char* end) {
-    for (; whole >= exactIntegers; whole = std::floor(whole / 10.0)) {
-        *end++ = static_cast<char>(zero + static_cast<int>(std::fmod(whole, 10.0)));
-    }
-    return writeUnitsFirst(static_cast<std::uint64_t>(whole), zero, end);
-}
-
-std::size_t countOf(int digits) {
+std::size_t countOf(int digits) noexcept {
     return static_cast<std::size_t>(std::max(digits, 0));
-}
-
-std::string_view between(const char* begin, const char* end) {
-    return {begin, static_cast<std::size_t>(end - begin)};
 }
 
 } // namespace
@@ -64,15 +37,21 @@ std::string& DecimalFormat::format(long value, std::string& out) const {
     }
     const bool negative = number < 0;
     appendPrefix(negative, out);
-    char digits[mostIntegerDigits];
-    const auto magnitude = static_cast<std::uint64_t>(negative ? -number : number);
-    appendInteger(between(digits, writeUnitsFirst(magnitude, symbols_.zeroDigit_, digits)), out);
-    if (minimumFractionDigits_ > 0) {
-        out += monetary_ ? symbols_.monetaryDecimalSeparator_ : symbols_.decimalSeparator_;
-        out.append(countOf(minimumFractionDigits_), symbols_.zeroDigit_);
-    }
+    appendDigits(static_cast<std::uint64_t>(negative ? -number : number), digitLayout(), out);
     appendSuffix(negative, out);
     return out;
+}
+
+DigitLayout DecimalFormat::digitLayout() const noexcept {
+    const bool grouped = groupingUsed_ && groupingSize_ > 0;
+    return {countOf(maximumIntegerDigits_),
+            countOf(minimumIntegerDigits_),
+            countOf(maximumFractionDigits_),
+            countOf(minimumFractionDigits_),
+            grouped ? static_cast<std::size_t>(groupingSize_) : 0,
+            monetary_ ? symbols_.monetaryGroupingSeparator_ : symbols_.groupingSeparator_,
+            monetary_ ? symbols_.monetaryDecimalSeparator_ : symbols_.decimalSeparator_,
+            symbols_.zeroDigit_};
 }
 
 void DecimalFormat::appendPrefix(bool negative, std::string& out) const {
@@ -83,27 +62,31 @@ void DecimalFormat::appendPrefix(bool negative, std::string& out) const {
     if (negative && negativeSuffix_.empty()) {
         out += symbols_.minusSign_;
     }
-    out += positivePrefix_;
+    if (!positivePrefix_.empty()) {
+        out += positivePrefix_;
+    }
 }
 
 void DecimalFormat::appendSuffix(bool negative, std::string& out) const {
-    out += negative && !negativeSuffix_.empty() ? negativeSuffix_ : positiveSuffix_;
+    const std::string& suffix =
+        negative && !negativeSuffix_.empty() ? negativeSuffix_ : positiveSuffix_;
+    if (!suffix.empty()) {
+        out += suffix;
+    }
 }
 
 void DecimalFormat::appendMagnitude(double magnitude, std::string& out) const {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
     double x = magnitude * multiplier_;
-    const bool scaled = useExponentialNotation_ && x > 0.0 && std::isfinite(x);
+    const bool scaled = useExponentialNotation_ && x > 0.0 && x < infinity;
     const long long exponent = scaled ? scaleToExponent(x) : 0;
-    // The only rounding there is: half a unit of the last digit. All digits are cut, not rounded.
-    x += powerOfTen(-static_cast<double>(maximumFractionDigits_) - 1.0) * 5.0;
-    if (!std::isfinite(x)) {
+    // The only rounding there is. All digits are cut off behind it.
+    x += roundingOf(maximumFractionDigits_);
+    if (x == infinity) {
         out += symbols_.infinity_;
         return;
     }
-    const double whole = std::floor(x);
-    char digits[mostIntegerDigits];
-    appendInteger(between(digits, writeUnitsFirst(whole, symbols_.zeroDigit_, digits)), out);
-    appendFraction(x - whole, out);
+    appendDigits(x, digitLayout(), out);
     if (useExponentialNotation_) {
         appendExponent(exponent, out);
     }
@@ -127,79 +110,17 @@ long long DecimalFormat::scaleToExponent(double& x) const {
     return exponent;
 }
 
-// Fills from the units upward, with zeros up to the minimum and nothing beyond the maximum.
-void DecimalFormat::appendInteger(std::string_view unitsFirst, std::string& out) const {
-    const std::size_t count = std::min(countOf(maximumIntegerDigits_),
-                                       std::max(unitsFirst.size(), countOf(minimumIntegerDigits_)));
-    if (count == 0) {
-        return;
-    }
-    const bool grouped = groupingUsed_ && groupingSize_ > 0;
-    const std::size_t groupSize = grouped ? static_cast<std::size_t>(groupingSize_) : count;
-    const std::string& separator =
-        monetary_ ? symbols_.monetaryGroupingSeparator_ : symbols_.groupingSeparator_;
-    out.append(count + (count - 1) / groupSize * separator.size(), symbols_.zeroDigit_);
-    char* at = out.data() + out.size();
-    std::size_t left = groupSize;
-    for (const char digit : unitsFirst.substr(0, count)) {
-        if (left == 0) {
-            at = std::copy_backward(separator.begin(), separator.end(), at);
-            left = groupSize;
-        }
-        *--at = digit;
-        --left;
-    }
-    for (std::size_t padding = unitsFirst.size(); padding < count; ++padding) {
-        if (left == 0) {
-            at = std::copy_backward(separator.begin(), separator.end(), at);
-            left = groupSize;
-        }
-        --at;
-        --left;
-    }
-}
-
-// Digits up to the last one that isn't zero, and on to the minimum. Without any there is no
-// separator either.
-void DecimalFormat::appendFraction(double fraction, std::string& out) const {
-    const std::size_t most = countOf(maximumFractionDigits_);
-    char digits[mostFractionDigits];
-    std::size_t count = 0;
-    std::size_t significant = 0;
-    while (count < most && fraction != 0.0) {
-        fraction *= 10.0;
-        const int digit = static_cast<int>(fraction);
-        fraction -= digit;
-        digits[count++] = static_cast<char>(symbols_.zeroDigit_ + digit);
-        if (digit != 0) {
-            significant = count;
-        }
-    }
-    const std::size_t least = std::min(countOf(minimumFractionDigits_), most);
-    if (significant == 0 && least == 0) {
-        return;
-    }
-    out += monetary_ ? symbols_.monetaryDecimalSeparator_ : symbols_.decimalSeparator_;
-    out.append(digits, significant);
-    if (least > significant) {
-        out.append(least - significant, symbols_.zeroDigit_);
-    }
-}
-
 void DecimalFormat::appendExponent(long long exponent, std::string& out) const {
     out += symbols_.exponential_;
     if (exponent < 0) {
         out += symbols_.minusSign_;
         exponent = -exponent;
     }
-    char digits[mostIntegerDigits];
-    const char* end =
-        writeUnitsFirst(static_cast<std::uint64_t>(exponent), symbols_.zeroDigit_, digits);
-    const std::string_view unitsFirst = between(digits, end);
-    if (const std::size_t least = countOf(minimumExponentDigits_); least > unitsFirst.size()) {
-        out.append(least - unitsFirst.size(), symbols_.zeroDigit_);
-    }
-    out.append(unitsFirst.rbegin(), unitsFirst.rend());
+    DigitLayout layout{};
+    layout.maximumIntegerDigits = std::numeric_limits<std::size_t>::max();
+    layout.minimumIntegerDigits = countOf(minimumExponentDigits_);
+    layout.zeroDigit = symbols_.zeroDigit_;
+    appendDigits(static_cast<std::uint64_t>(exponent), layout, out);
 }
 
 } // namespace zem::msglib

@@ -6,8 +6,9 @@ namespace zem::msglib {
 
 namespace {
 
+// Most symbols are what they start as, and comparing costs less than writing.
 void query(std::uint32_t lctype, std::string& symbol) {
-    if (const LocaleNumberValue value(lctype); value.found()) {
+    if (const LocaleNumberValue value(lctype); value.found() && value.text() != symbol) {
         symbol = value.text();
     }
 }

@@ -1,4 +1,5 @@
 #include "base/Failure.h"
+#include "base/Scanning.h"
 #include "msglib/DecimalFormat.h"
 
 #include <algorithm>
@@ -9,12 +10,7 @@ namespace zem::msglib {
 
 namespace {
 
-constexpr char quote = '\'';
 constexpr char currencySign = '\xA4';
-
-bool holdsAt(const std::string& pattern, std::size_t pos, char byte) {
-    return pos < pattern.size() && pattern[pos] == byte;
-}
 
 // A count of marks as the field that keeps it; more than fit count as the most that do.
 template <class Field>

@@ -1,140 +1,111 @@
 #include "number/LocaleNumberFormat.h"
 
 #include "base/LocaleValue.h"
+#include "number/DigitWriter.h"
+#include "number/LocaleNumberPattern.h"
+#include "number/NumberArgument.h"
 
-#include <cstdio>
-#include <iterator>
-#include <string>
-#include <string_view>
+#include <limits>
 
 namespace zem::msglib {
 
 namespace {
 
-constexpr char currencyMark = '\xA4';
-
-// More digits than this are no locale value.
-constexpr unsigned int mostDigits = 4096;
-
-constexpr std::string_view negativeNumbers[] = {";(#)", ";-#", ";- #", ";#-", ";# -"};
-constexpr std::string_view negativePercents[] = {";(#%)", ";-#%", ";- #%", ";#%-", ";#% -"};
-constexpr std::string_view negativeCurrencies[] = {
-    ";(\xA4#)", ";-\xA4#",  ";\xA4-#",   ";\xA4#-",  ";(#\xA4)", ";-#\xA4",
-    ";#-\xA4",  ";#\xA4-",  ";-# \xA4",  ";-\xA4 #", ";# \xA4-", ";\xA4 #-",
-    ";\xA4 -#", ";#- \xA4", ";(\xA4 #)", ";(# \xA4)"};
-
-bool localeIsInstalled() noexcept {
-    const auto locale = platform::ConvertDefaultLocale(platform::localeIdentifier);
-    return platform::IsValidLocale(locale, platform::LCID_INSTALLED);
-}
-
-// The number that a value begins with, 0 if there is none.
-unsigned int countIn(const LocaleNumberValue& value) noexcept {
-    const char first = value.first();
-    const char second = first == '\0' ? first : value.c_str()[1];
-    if (first >= '0' && first <= '9' && (second < '0' || second > '9')) {
-        return static_cast<unsigned int>(first - '0');
+// Appends a number that isn't negative as a formatter by the locale's pattern would; false, with
+// nothing appended, where the locale's values don't tell all of it.
+bool appendPlain(double magnitude, NumberFormat::FormatType type, std::string& out) {
+    const LocaleNumberValue zero(platform::LOCALE_SNATIVEDIGITS);
+    const LocaleNumberValue grouping(platform::LOCALE_STHOUSAND);
+    const LocaleNumberValue decimal(platform::LOCALE_SDECIMAL);
+    const bool isFinite = magnitude <= std::numeric_limits<double>::max();
+    if (!isFinite || !zero.found() || !grouping.found() || !decimal.found() ||
+        !LocaleNumberPattern::isAvailable()) {
+        return false;
     }
-    unsigned int count = 0;
-    return std::sscanf(value.c_str(), "%u", &count) == 1 ? count : 0;
-}
-
-unsigned int digitsIn(const LocaleNumberValue& value) noexcept {
-    const unsigned int count = countIn(value);
-    return count <= mostDigits ? count : 0;
-}
-
-std::string integerPart(std::uint32_t groupingType) {
-    std::string text;
-    if (const unsigned int size = digitsIn(LocaleNumberValue(groupingType)); size > 0) {
-        text.assign("#,").append(size, '#');
-    }
-    if (LocaleNumberValue(platform::LOCALE_ILZERO).first() == '1') {
-        if (!text.empty()) {
-            text.pop_back();
-        }
-        text.push_back('0');
-    }
-    return text;
-}
-
-void appendFraction(std::uint32_t digitsType, std::string& text) {
-    if (const unsigned int digits = digitsIn(LocaleNumberValue(digitsType)); digits > 0) {
-        text.append(1, '.').append(digits, '0');
-    }
-}
-
-void addCurrencyMark(std::string& text) {
-    const char blankAndMark[] = {' ', currencyMark};
-    const char markAndBlank[] = {currencyMark, ' '};
-    switch (LocaleNumberValue(platform::LOCALE_ICURRENCY).first()) {
-    case '0': text.insert(text.begin(), currencyMark); break;
-    case '1': text.push_back(currencyMark); break;
-    case '2': text.insert(0, markAndBlank, sizeof markAndBlank); break;
-    case '3': text.append(blankAndMark, sizeof blankAndMark); break;
-    default: break;
-    }
-}
-
-template <std::size_t Size>
-std::string_view formAt(const std::string_view (&forms)[Size], std::size_t number) noexcept {
-    return number < Size ? forms[number] : std::string_view();
-}
-
-template <std::size_t Size>
-std::string_view negativeForm(const std::string_view (&forms)[Size]) noexcept {
-    const char first = LocaleNumberValue(platform::LOCALE_INEGNUMBER).first();
-    return first < '0' ? std::string_view() : formAt(forms, static_cast<std::size_t>(first - '0'));
+    const LocaleNumberPattern pattern = type == NumberFormat::Integer
+                                            ? LocaleNumberPattern::integer()
+                                            : LocaleNumberPattern::number();
+    constexpr std::size_t mostIntegerDigits = 309;
+    const DigitLayout layout{mostIntegerDigits,      pattern.leadingZero ? 1U : 0U,
+                             pattern.fractionDigits, pattern.fractionDigits,
+                             pattern.groupSize,      grouping.text(),
+                             decimal.text(),         zero.first()};
+    appendDigits(magnitude + roundingOf(static_cast<int>(pattern.fractionDigits)), layout, out);
+    return true;
 }
 
 } // namespace
 
+const char* LocaleNumberFormat::fallbackOf(NumberFormat::FormatType type) noexcept {
+    switch (type) {
+    case NumberFormat::Currency: return "$#,##0.00;($#,##0.00)";
+    case NumberFormat::Percent: return "#,##0%";
+    default: return "#,##0.###";
+    }
+}
+
 DecimalFormat LocaleNumberFormat::make(const std::locale& locale, NumberFormat::FormatType type,
                                        const char* fallback) {
-    std::string pattern;
-    switch (type) {
-    case NumberFormat::Number: pattern = NumberFormat::getNumberFormat(locale, fallback); break;
-    case NumberFormat::Integer: pattern = NumberFormat::getIntegerFormat(locale, fallback); break;
-    case NumberFormat::Currency: pattern = NumberFormat::getCurrencyFormat(locale, fallback); break;
-    case NumberFormat::Percent: pattern = NumberFormat::getPercentFormat(locale, fallback); break;
+    return DecimalFormat(patternOf(locale, type, fallback), DecimalFormatSymbols(locale));
+}
+
+std::shared_ptr<DecimalFormat> LocaleNumberFormat::makeShared(const std::locale& locale,
+                                                              NumberFormat::FormatType type) {
+    return std::make_shared<DecimalFormat>(patternOf(locale, type, fallbackOf(type)),
+                                           DecimalFormatSymbols(locale));
+}
+
+void LocaleNumberFormat::append(const boost::any& argument, const std::locale& locale,
+                                NumberFormat::FormatType type, std::string& out) {
+    const double value = readNumber(argument);
+    if (!(value >= 0.0) || !appendPlain(value, type, out)) {
+        make(locale, type, fallbackOf(type)).format(value, out);
     }
-    return DecimalFormat(pattern, DecimalFormatSymbols(locale));
+}
+
+std::string LocaleNumberFormat::patternOf(const std::locale& locale, NumberFormat::FormatType type,
+                                          const char* fallback) {
+    switch (type) {
+    case NumberFormat::Number: return NumberFormat::getNumberFormat(locale, fallback);
+    case NumberFormat::Integer: return NumberFormat::getIntegerFormat(locale, fallback);
+    case NumberFormat::Currency: return NumberFormat::getCurrencyFormat(locale, fallback);
+    case NumberFormat::Percent: return NumberFormat::getPercentFormat(locale, fallback);
+    }
+    return {};
 }
 
 std::string NumberFormat::getNumberFormat(const std::locale&, const char* fallback) {
-    if (!localeIsInstalled()) {
+    if (!LocaleNumberPattern::isAvailable()) {
         return fallback;
     }
-    std::string text = integerPart(platform::LOCALE_SGROUPING);
-    appendFraction(platform::LOCALE_IDIGITS, text);
-    return text.append(negativeForm(negativeNumbers));
+    const auto pattern = LocaleNumberPattern::number();
+    return pattern.digits().append(pattern.negative);
 }
 
 std::string NumberFormat::getIntegerFormat(const std::locale&, const char* fallback) {
-    if (!localeIsInstalled()) {
+    if (!LocaleNumberPattern::isAvailable()) {
         return fallback;
     }
-    return integerPart(platform::LOCALE_SGROUPING).append(negativeForm(negativeNumbers));
+    const auto pattern = LocaleNumberPattern::integer();
+    return pattern.digits().append(pattern.negative);
 }
 
 std::string NumberFormat::getPercentFormat(const std::locale&, const char* fallback) {
-    if (!localeIsInstalled()) {
+    if (!LocaleNumberPattern::isAvailable()) {
         return fallback;
     }
-    std::string text = integerPart(platform::LOCALE_SGROUPING);
-    appendFraction(platform::LOCALE_IDIGITS, text);
-    return text.append(1, '%').append(negativeForm(negativePercents));
+    const auto pattern = LocaleNumberPattern::percent();
+    return pattern.digits().append(1, '%').append(pattern.negative);
 }
 
 std::string NumberFormat::getCurrencyFormat(const std::locale&, const char* fallback) {
-    if (!localeIsInstalled()) {
+    if (!LocaleNumberPattern::isAvailable()) {
         return fallback;
     }
-    std::string text = integerPart(platform::LOCALE_SMONGROUPING);
-    appendFraction(platform::LOCALE_ICURRDIGITS, text);
-    addCurrencyMark(text);
-    const unsigned int form = countIn(LocaleNumberValue(platform::LOCALE_INEGCURR));
-    return text.append(formAt(negativeCurrencies, form));
+    const auto pattern = LocaleNumberPattern::currency();
+    std::string text = pattern.digits();
+    addCurrencySign(text);
+    return text.append(pattern.negative);
 }
 
 } // namespace zem::msglib

@@ -3,25 +3,42 @@
 #include "msglib/DecimalFormat.h"
 #include "msglib/NumberFormat.h"
 
+#include <boost/any.hpp>
+
 #include <locale>
+#include <memory>
+#include <string>
 
 namespace zem::msglib {
 
-/// Makes number formatters from the platform's locale values, in place: the factories put them on
-/// the heap, and messages keep the one of a plain placeholder on the stack.
+/// Number formatters by the platform's locale values, for the factories and for messages.
 class LocaleNumberFormat {
 public:
-    static constexpr const char* numberFallback = "#,##0.###";
-    static constexpr const char* integerFallback = "#,##0.###";
-    static constexpr const char* currencyFallback = "$#,##0.00;($#,##0.00)";
-    static constexpr const char* percentFallback = "#,##0%";
-
     /// Returns the formatter of `type`; of the empty pattern for a value outside the enumeration.
     ///
     /// @param fallback  the pattern if the platform doesn't know the locale
     /// @throws std::runtime_error as `DecimalFormat::applyPattern` does
     static DecimalFormat make(const std::locale& locale, NumberFormat::FormatType type,
                               const char* fallback);
+
+    /// Returns the same formatter as the public factory of `type`, in shared ownership.
+    static std::shared_ptr<DecimalFormat> makeShared(const std::locale& locale,
+                                                     NumberFormat::FormatType type);
+
+    /// Appends `argument` as a new formatter of the public factory of `type` would, but makes one
+    /// only where it has to.
+    ///
+    /// @param type  `Number` or `Integer`
+    static void append(const boost::any& argument, const std::locale& locale,
+                       NumberFormat::FormatType type, std::string& out);
+
+    /// Returns the pattern of the public factory of `type` for a platform that doesn't know the
+    /// locale.
+    static const char* fallbackOf(NumberFormat::FormatType type) noexcept;
+
+private:
+    static std::string patternOf(const std::locale& locale, NumberFormat::FormatType type,
+                                 const char* fallback);
 };
 
 } // namespace zem::msglib

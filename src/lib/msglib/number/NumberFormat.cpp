@@ -1,49 +1,31 @@
 #include "msglib/NumberFormat.h"
 
-#include "base/Argument.h"
 #include "msglib/DecimalFormat.h"
 #include "number/LocaleNumberFormat.h"
-
-#include <type_traits>
+#include "number/NumberArgument.h"
 
 namespace zem::msglib {
-
-namespace {
-
-struct ReadNumber {
-    template <class Number, class = std::enable_if_t<std::is_arithmetic_v<Number>>>
-    double operator()(Number value) const {
-        return static_cast<double>(value);
-    }
-    double operator()(const geom::Angle& value) const {
-        return (value.radians() * 180.0) / 3.141592653589793;
-    }
-    double operator()(const std::string&) const { raise(Failure::NotANumber); }
-    double operator()(UnknownKind) const { raise(Failure::NotANumber); }
-};
-
-} // namespace
 
 NumberFormat::~NumberFormat() = default;
 
 std::string& NumberFormat::format(const boost::any& value, std::string& out) const {
-    return format(visitArgument(value, ReadNumber()), out);
+    return format(readNumber(value), out);
 }
 
 NumberFormat* NumberFormat::getNumberInstance(const std::locale& locale) {
-    return createInstance(locale, Number, LocaleNumberFormat::numberFallback);
+    return createInstance(locale, Number, LocaleNumberFormat::fallbackOf(Number));
 }
 
 NumberFormat* NumberFormat::getIntegerInstance(const std::locale& locale) {
-    return createInstance(locale, Integer, LocaleNumberFormat::integerFallback);
+    return createInstance(locale, Integer, LocaleNumberFormat::fallbackOf(Integer));
 }
 
 NumberFormat* NumberFormat::getCurrencyInstance(const std::locale& locale) {
-    return createInstance(locale, Currency, LocaleNumberFormat::currencyFallback);
+    return createInstance(locale, Currency, LocaleNumberFormat::fallbackOf(Currency));
 }
 
 NumberFormat* NumberFormat::getPercentInstance(const std::locale& locale) {
-    return createInstance(locale, Percent, LocaleNumberFormat::percentFallback);
+    return createInstance(locale, Percent, LocaleNumberFormat::fallbackOf(Percent));
 }
 
 NumberFormat* NumberFormat::createInstance(const std::locale& locale, FormatType type,

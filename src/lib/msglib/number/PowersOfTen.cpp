@@ -17,9 +17,8 @@ constexpr double table[] = {1e-18, 1e-17, 1e-16, 1e-15, 1e-14, 1e-13, 1e-12, 1e-
 } // namespace
 
 double powerOfTen(double exponent) noexcept {
-    const double position = exponent - least;
-    if (position >= 0.0 && position < static_cast<double>(std::size(table))) {
-        return table[static_cast<std::size_t>(position)];
+    if (exponent >= least && exponent < least + static_cast<int>(std::size(table))) {
+        return table[static_cast<int>(exponent) - least];
     }
     return std::pow(10.0, exponent);
 }

@@ -5,9 +5,10 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 namespace zem::msglib {
+
+struct DigitLayout;
 
 /// Writes numbers by a pattern such as "#,##0.00;(#,##0.00)".
 ///
@@ -65,8 +66,9 @@ public:
 
     /// Appends the text of a number.
     ///
-    /// Rounding adds half a unit of the last fraction digit to the magnitude: exact ties go away
-    /// from zero, and only what is stored decides. Integer digits are exact below 2 to the power
+    /// Rounding adds half a unit of the last fraction digit to the magnitude, as a sum of two
+    /// `double`: what is stored decides, so ties of whole numbers go away from zero, while a tie in
+    /// the fraction may go either way. Integer digits are exact below 2 to the power
     /// 53; above that they are what repeated division of a `double` by ten gives. Integer digits
     /// beyond the maximum are dropped.
     ///
@@ -88,12 +90,11 @@ private:
     std::size_t parseExponent(const std::string& pattern, std::size_t pos, bool negative);
     void reset();
 
+    DigitLayout digitLayout() const noexcept;
     void appendPrefix(bool negative, std::string& out) const;
     void appendSuffix(bool negative, std::string& out) const;
     void appendMagnitude(double magnitude, std::string& out) const;
     long long scaleToExponent(double& x) const;
-    void appendInteger(std::string_view unitsFirst, std::string& out) const;
-    void appendFraction(double fraction, std::string& out) const;
     void appendExponent(long long exponent, std::string& out) const;
 
     static const std::string patternChars_;

@@ -50,8 +50,12 @@ public:
     /// @throws std::runtime_error as `applyPattern` does
     MessageFormat(const std::string& pattern);
 
+    /// Copies texts and locale, and shares the formatters.
     MessageFormat(const MessageFormat& other);
+
+    /// The same by assignment; to itself it changes nothing.
     MessageFormat& operator=(const MessageFormat& other);
+
     ~MessageFormat() override;
 
     /// Compiles `pattern` in place of the present one.
@@ -103,10 +107,13 @@ private:
 
     MessageFormat();
 
+    void compile(const std::string& pattern);
     std::size_t parseStatic(const std::string& pattern, std::size_t position,
                             std::string& text) const;
     std::size_t parsePatternElement(const std::string& pattern, std::size_t position,
                                     std::string& text, char endByte) const;
+    std::size_t parseIndex(const std::string& pattern, std::size_t position, std::string& scratch,
+                           int& index) const;
     std::size_t parsePattern(const std::string& pattern, std::size_t position, std::string& scratch,
                              const std::locale& locale);
 

@@ -28,10 +28,18 @@ public:
     /// Begins a message by a pattern, which must end with a NUL. Null means the identifier 0.
     MessageFormatStream(const char* pattern);
 
+    /// Copies message, arguments and the text so far, but not the characters of a pattern.
     MessageFormatStream(const MessageFormatStream& other);
+
+    /// Takes everything from `other`, which may then only be assigned to or destroyed.
     MessageFormatStream(MessageFormatStream&& other) noexcept;
+
+    /// The same as copying, in place of what this stream held; to itself it changes nothing.
     MessageFormatStream& operator=(const MessageFormatStream& other);
+
+    /// The same as moving, in place of what this stream held; to itself it changes nothing.
     MessageFormatStream& operator=(MessageFormatStream&& other) noexcept;
+
     ~MessageFormatStream();
 
     /// Returns the identifier of the current message, that of the last one joined; 0 for a pattern.

@@ -100,11 +100,11 @@ protected:
     /// All limits zero and grouping off, until a derived class sets them.
     NumberFormat() = default;
 
-    bool groupingUsed_ = false;
-    int maximumFractionDigits_ = 0;
-    int maximumIntegerDigits_ = 0;
-    int minimumFractionDigits_ = 0;
-    int minimumIntegerDigits_ = 0;
+    bool groupingUsed_ = false;     ///< see `getGroupingUsed`
+    int maximumFractionDigits_ = 0; ///< see `getMaximumFractionDigits`
+    int maximumIntegerDigits_ = 0;  ///< see `getMaximumIntegerDigits`
+    int minimumFractionDigits_ = 0; ///< see `getMinimumFractionDigits`
+    int minimumIntegerDigits_ = 0;  ///< see `getMinimumIntegerDigits`
 
 private:
     friend class LocaleNumberFormat;

@@ -26,6 +26,9 @@ public:
     /// of one fixed locale.
     SimpleDateFormat(const std::string& pattern, const std::locale& locale);
 
+    /// The same with a pattern that the caller gives away.
+    SimpleDateFormat(std::string&& pattern, const std::locale& locale);
+
     SimpleDateFormat(const SimpleDateFormat&) = default;
     SimpleDateFormat& operator=(const SimpleDateFormat&) = default;
     ~SimpleDateFormat() override;

@@ -1,7 +1,7 @@
 #include "msglib/MessageLibrary.h"
 
 #include "base/Failure.h"
-#include "msglib/MessageFormat.h"
+#include "message/MessageRenderer.h"
 #include "platform/MessageTables.h"
 
 #include <boost/algorithm/string/replace.hpp>
@@ -84,8 +84,11 @@ void MessageLibrary::registerFacility(unsigned int facility, const void* address
 
 std::string MessageLibrary::formatMessage(const std::string& pattern,
                                           const std::list<boost::any>& args) const {
+    constexpr std::size_t usualArgument = 16;
     std::string text;
-    MessageFormat(pattern).format(args, text);
+    text.reserve(pattern.size() + args.size() * usualArgument);
+    const std::locale locale;
+    MessageRenderer(args, locale, text).render(pattern);
     return text;
 }
 

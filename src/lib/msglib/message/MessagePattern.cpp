@@ -1,23 +1,20 @@
 #include "base/Extraction.h"
 #include "base/Failure.h"
 #include "message/FormatElement.h"
+#include "message/StaticText.h"
 #include "msglib/MessageFormat.h"
 
 #include <utility>
 
 namespace zem::msglib {
 
-namespace {
-
-bool isQuoteAt(const std::string& pattern, std::size_t position) {
-    return position < pattern.size() && pattern[position] == '\'';
+void MessageFormat::applyPattern(const std::string& pattern) {
+    pattern_ = pattern;
+    compile(pattern);
 }
 
-} // namespace
-
-void MessageFormat::applyPattern(const std::string& pattern) {
+void MessageFormat::compile(const std::string& pattern) {
     elements_.clear();
-    pattern_ = pattern;
     std::string scratch;
     std::size_t position = parseStatic(pattern, 0, prefix_);
     while (position < pattern.size()) {
@@ -28,28 +25,9 @@ void MessageFormat::applyPattern(const std::string& pattern) {
 std::size_t MessageFormat::parseStatic(const std::string& pattern, std::size_t position,
                                        std::string& text) const {
     text.clear();
-    while (position < pattern.size()) {
-        const std::size_t syntax = pattern.find_first_of("'{}", position);
-        if (syntax == std::string::npos) {
-            text.append(pattern, position);
-            return pattern.size();
-        }
-        text.append(pattern, position, syntax - position);
-        position = syntax;
-        const char c = pattern[position];
-        if (c == '{') {
-            return position;
-        }
-        if (c == '}') {
-            raise(Failure::UnexpectedClosingBrace);
-        }
-        if (isQuoteAt(pattern, position + 2)) {
-            text.push_back(pattern[position + 1]);
-            position += 3;
-        } else {
-            text.push_back('\'');
-            position += isQuoteAt(pattern, position + 1) ? 2 : 1;
-        }
+    position = scanStatic(pattern, position, [&text](std::string_view piece) { text += piece; });
+    if (holdsAt(pattern, position, '}')) {
+        raise(Failure::UnexpectedClosingBrace);
     }
     return position;
 }
@@ -59,15 +37,16 @@ std::size_t MessageFormat::parsePatternElement(const std::string& pattern, std::
     text.clear();
     std::size_t depth = 1;
     while (position < pattern.size()) {
+        const std::size_t syntax = findSyntax(pattern, position, endByte);
+        text.append(pattern, position, syntax - position);
+        position = syntax;
+        if (position == pattern.size()) {
+            break;
+        }
         const char c = pattern[position];
-        if (c == '\'' && isQuoteAt(pattern, position + 2)) {
+        if (c == quote && holdsAt(pattern, position + 2, quote)) {
             text.append(pattern, position, 3);
             position += 3;
-            continue;
-        }
-        if (c == '\'' && isQuoteAt(pattern, position + 1)) {
-            text.push_back(c);
-            position += 2;
             continue;
         }
         if (c == '{') {
@@ -76,10 +55,25 @@ std::size_t MessageFormat::parsePatternElement(const std::string& pattern, std::
             --depth;
         }
         if (depth == 0 || (c == endByte && c != '}')) {
-            return position;
+            break;
         }
         text.push_back(c);
-        ++position;
+        position += c == quote && holdsAt(pattern, position + 1, quote) ? 2 : 1;
+    }
+    return position;
+}
+
+// Plain digits, by far the most frequent index, are read where they stand.
+std::size_t MessageFormat::parseIndex(const std::string& pattern, std::size_t position,
+                                      std::string& scratch, int& index) const {
+    const std::size_t digits = readDigits(pattern, position, index);
+    const std::size_t end = position + digits;
+    if (digits > 0 && end < pattern.size() && (pattern[end] == ',' || pattern[end] == '}')) {
+        return end;
+    }
+    position = parsePatternElement(pattern, position, scratch, ',');
+    if (!extractInt(scratch, index)) {
+        raise(Failure::IllegalArgument);
     }
     return position;
 }
@@ -87,12 +81,10 @@ std::size_t MessageFormat::parsePatternElement(const std::string& pattern, std::
 std::size_t MessageFormat::parsePattern(const std::string& pattern, std::size_t position,
                                         std::string& scratch, const std::locale& locale) {
     FormatElement& element = elements_.emplace_back();
-    position = parsePatternElement(pattern, position + 1, scratch, ',');
-    const auto index = extractInt(scratch);
-    if (!index || position == pattern.size()) {
+    position = parseIndex(pattern, position + 1, scratch, element.argumentIndex_);
+    if (position == pattern.size()) {
         raise(Failure::IllegalArgument);
     }
-    element.argumentIndex_ = *index;
     if (pattern[position] == ',') {
         position = parsePatternElement(pattern, position + 1, element.type_, ',');
         if (position == pattern.size()) {

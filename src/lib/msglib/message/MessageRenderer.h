@@ -8,6 +8,7 @@
 #include <list>
 #include <locale>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
 
@@ -26,7 +27,12 @@ public:
     /// Appends `message` with the arguments; fails as `MessageFormat::format` does.
     void render(const MessageFormat& message);
 
+    /// Appends the message of `pattern`, compiled for this rendering only.
+    void render(const std::string& pattern);
+
 private:
+    void renderPlain(std::string_view pattern);
+    void renderPending();
     void renderElement(const FormatElement& element);
     void renderByKind(const boost::any& argument);
     void expandChoice(const FormatElement& element, const boost::any& argument);

@@ -1,0 +1,147 @@
+#include "message/Outcome.h"
+#include "msglib/MessageFormatStream.h"
+#include "msglib/MessageLibrary.h"
+#include "support/FakeMessages.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace zem::msglib {
+namespace {
+
+using namespace std::string_literals;
+using Stream = MessageFormatStream;
+
+TEST(MessageFormatStream, KeepsTheTypeOfEachArgument) {
+    const std::string text = "t";
+    struct {
+        int line;
+        std::string rendered, text;
+    } const rows[] = {
+        {__LINE__, (Stream("{0}") << 'x').toString(), "x"},
+        {__LINE__, (Stream("{0}{1}") << -7 << 2147483647).toString(), "-72,147,483,647"},
+        {__LINE__, (Stream("{0}") << short{-7}).toString(), "-7"},
+        {__LINE__, (Stream("{0}") << true).toString(), "1"},
+        {__LINE__, (Stream("{0}") << -2147483647L).toString(), "-2,147,483,647"},
+        {__LINE__, (Stream("{0}") << -5'000'000'000LL).toString(), "-5,000,000,000"},
+        {__LINE__, (Stream("{0}") << 4294967295U).toString(), "4,294,967,295"},
+        {__LINE__, (Stream("{0}") << 4294967295UL).toString(), "4,294,967,295"},
+        {__LINE__, (Stream("{0,choice,0#small|1e18#huge}") << (1ULL << 63)).toString(), "huge"},
+        {__LINE__, (Stream("{0}{1}") << 7.0 << 0.5F).toString(), "7.000.50"},
+        {__LINE__, (Stream("{0}") << "a\0b"s.c_str()).toString(), "a"},
+        {__LINE__, (Stream("{0}") << "a\0b"s).toString(), "a\0b"s},
+        {__LINE__, (Stream("{0}") << std::string_view("a\0bc", 3)).toString(), "a\0b"s},
+        {__LINE__, (Stream("{0}{1}") << text << std::string_view(text)).toString(), "tt"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.rendered, row.text) << row.line;
+    }
+    EXPECT_THROW((Stream("{0,number}") << '7').toString(), std::runtime_error);
+    EXPECT_THROW((Stream("{0,number}") << "7").toString(), std::runtime_error);
+}
+
+TEST(MessageFormatStream, LongBeyond32BitsIsRefusedWithoutATrace) {
+    if (sizeof(long) == 4) {
+        GTEST_SKIP() << "long has no values beyond 32 bits";
+    }
+    const Stream stream("{0}");
+    EXPECT_THROW(stream << static_cast<long>(2147483648LL), std::out_of_range);
+    EXPECT_THROW(stream << static_cast<long>(-2147483649LL), std::out_of_range);
+    EXPECT_THROW(stream << static_cast<unsigned long>(4294967296ULL), std::out_of_range);
+    EXPECT_THROW(stream << static_cast<unsigned long>(-1LL), std::out_of_range);
+    EXPECT_EQ((stream << "x").toString(), "x");
+}
+
+TEST(MessageFormatStream, TextAccumulates) {
+    const Stream stream("{0}");
+    EXPECT_EQ(&(stream << "a"), &stream);
+    EXPECT_EQ(stream.toString(), "a");
+    stream << "b";
+    EXPECT_EQ(stream.toString(), "aa");
+    EXPECT_EQ(Stream("").toString(), "");
+}
+
+TEST(MessageFormatStream, JoinsMessages) {
+    EXPECT_EQ((Stream("a{0}") << "1" << Stream("b{0}") << "2").toString(), "a1b2");
+    EXPECT_EQ((Stream("y") << (Stream("x{0}") << "1")).toString(), "yx1");
+    EXPECT_EQ((Stream("{0}") << "1" << Stream("b") << "2" << Stream("{0}") << "3").toString(),
+              "1b3");
+    const Stream right("r{0}");
+    right << "1";
+    EXPECT_EQ(right.toString(), "r1");
+    const Stream left("l");
+    left << right << "2";
+    EXPECT_EQ(left.toString(), "lr1");
+    EXPECT_EQ(right.toString(), "r1r1");
+
+    const Stream itself("{0}");
+    itself << "x" << itself;
+    EXPECT_EQ(itself.toString(), "xx");
+    itself << itself << itself;
+    EXPECT_EQ(itself.toString(), "xxxxx");
+}
+
+TEST(MessageFormatStream, CopiesAreDeepAndMovesTakeTheRecord) {
+    Stream stream("{0}{1}");
+    stream << "a"
+           << "b";
+    EXPECT_EQ(stream.toString(), "ab");
+    Stream copy(stream);
+    copy << Stream("c");
+    EXPECT_EQ(copy.toString(), "ababc");
+    EXPECT_EQ(stream.toString(), "abab");
+
+    Stream moved(std::move(stream));
+    EXPECT_EQ(moved.toString(), "ababab");
+    stream = moved;
+    EXPECT_EQ(stream.toString(), "abababab");
+    EXPECT_EQ(moved.toString(), "abababab");
+    copy = std::move(moved);
+    EXPECT_EQ(copy.toString(), "ababababab");
+    moved = Stream("new");
+    EXPECT_EQ(moved.toString(), "new");
+    Stream& itself = moved;
+    moved = itself;
+    moved = std::move(itself);
+    EXPECT_EQ(moved.toString(), "newnew");
+}
+
+TEST(MessageFormatStream, MessageIdIsThatOfTheCurrentMessage) {
+    const FakeMessages messages({{0x210001, "one{0}"}, {0x210002, "two"}});
+    MessageLibrary::instance().registerFacility(0x21, &messages);
+    const Stream stream("p");
+    EXPECT_EQ(stream.messageId(), 0U);
+    stream << Stream(0x210001) << 1;
+    EXPECT_EQ(stream.messageId(), 0x210001U);
+    stream << Stream(0x210002);
+    EXPECT_EQ(stream.messageId(), 0x210002U);
+    EXPECT_EQ(stream.toString(), "pone1two");
+    const char* nothing = nullptr;
+    EXPECT_EQ(Stream(nothing).messageId(), 0U);
+    EXPECT_THROW(Stream(nothing).toString(), std::runtime_error);
+}
+
+TEST(MessageFormatStream, FailuresByPatternLeaveTheStreamAsItWas) {
+    const Stream stream("a");
+    EXPECT_EQ(stream.toString(), "a");
+    stream << Stream("{1}") << "x";
+    EXPECT_THROW(stream.toString(), std::runtime_error);
+    EXPECT_THROW(stream << Stream("lost"), std::runtime_error);
+    EXPECT_THROW(stream << stream, std::runtime_error);
+    EXPECT_EQ((stream << "y").toString(), "aay");
+}
+
+TEST(MessageFormatStream, FailuresByIdentifierAreText) {
+    const FakeMessages messages({{0x220001, "{1}"}, {0x220002, "-"}});
+    MessageLibrary::instance().registerFacility(0x22, &messages);
+    const Stream stream(0x220001);
+    stream << Stream(0x220002) << Stream(0x220003) << Stream(0x220002);
+    EXPECT_EQ(stream.toString(), indexTooHigh + "-Invalid message ID-");
+    stream << Stream(0x230001);
+    EXPECT_THROW(stream.toString(), std::runtime_error);
+    EXPECT_THROW(stream << Stream("lost"), std::runtime_error);
+    EXPECT_EQ(stream.messageId(), 0x230001U);
+}
+
+} // namespace
+} // namespace zem::msglib

@@ -1,0 +1,154 @@
+#include "message/Outcome.h"
+#include "msglib/MessageLibrary.h"
+#include "support/FakeMessages.h"
+
+#include <sstream>
+#include <stdexcept>
+
+namespace zem::msglib {
+namespace {
+
+using namespace std::string_literals;
+
+const void* addressOf(std::uintptr_t address) {
+    return reinterpret_cast<const void*>(address);
+}
+
+/// Renders by an identifier or a pattern; "!" and the words of the failure if it throws.
+template <class Message>
+std::string rendered(const Message& message, const Arguments& args) {
+    try {
+        return MessageLibrary::instance().formatMessage(message, args);
+    } catch (const std::exception& caught) {
+        return std::string("!") + caught.what();
+    }
+}
+
+TEST(MessageLibrary, FacilityIsElevenBitsOfTheIdentifier) {
+    MessageLibrary& library = MessageLibrary::instance();
+    EXPECT_EQ(&IMessageLibrary::instance(), &library);
+    struct {
+        int line;
+        unsigned int facility, messageId;
+        bool found;
+    } const rows[] = {
+        {__LINE__, 1, 0x00010005, true},        {__LINE__, 1, 0xC0010005, true},
+        {__LINE__, 1, 0x08010000, true},        {__LINE__, 0x7FF, 0xFFFFFFFF, true},
+        {__LINE__, 0x7FF, 0x07FE0001, false},   {__LINE__, 0x800, 0x08000005, false},
+        {__LINE__, 0x10003, 0x00030005, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const FakeMessages messages({{row.messageId, "text"}});
+        library.registerFacility(row.facility, addressOf(0x7A1234));
+        EXPECT_EQ(rendered(row.messageId, {}), row.found ? "text" : "!Invalid message ID");
+        std::ostringstream lookUp;
+        lookUp << "b00 0x7a0000 " << std::hex << row.messageId << " 409;";
+        EXPECT_EQ(messages.lookUps, row.found ? lookUp.str() : "");
+    }
+}
+
+TEST(MessageLibrary, LastGoodRegistrationWins) {
+    MessageLibrary& library = MessageLibrary::instance();
+    FakeMessages messages({{0x100001, "text"}});
+    library.registerFacility(0x10, addressOf(0x111111));
+    library.registerFacility(0x10, addressOf(0x220000));
+    EXPECT_EQ(rendered(0x100001U, {}), "text");
+    library.registerFacility(0x10, addressOf(0x22FFFF));
+    EXPECT_EQ(rendered(0x100001U, {}), "text");
+    EXPECT_EQ(messages.lookUps, "b00 0x220000 100001 409;b00 0x220000 100001 409;");
+
+    messages.memoryType = 0x20000; // private memory
+    EXPECT_THROW(library.registerFacility(0x10, addressOf(0x330000)), std::invalid_argument);
+    messages.memoryType = platform::MEM_IMAGE;
+    messages.queryResult = 0;
+    EXPECT_THROW(library.registerFacility(0x10, addressOf(0x440000)), std::invalid_argument);
+    EXPECT_THROW(library.registerFacility(0x11, addressOf(0x440000)), std::invalid_argument);
+    EXPECT_EQ(rendered(0x100001U, {}), "text");
+    EXPECT_EQ(rendered(0x110001U, {}), "!Invalid message ID");
+}
+
+TEST(MessageLibrary, EveryFailureIsTextByIdentifierAndThrownByPattern) {
+    struct {
+        int line;
+        std::string pattern, words;
+    } const rows[] = {
+        {__LINE__, "}", unexpectedBrace},
+        {__LINE__, "{x}", illegalArgument},
+        {__LINE__, "{2}", indexTooHigh},
+        {__LINE__, "{0,choice}", styleRequired},
+        {__LINE__, "{1,number}", notANumber},
+        {__LINE__, "{0,number,# #}", "separator character expected"},
+        {__LINE__, "{0,number,0;0;0}", "end of pattern expected"},
+        {__LINE__, "{0,number,0%%}", "multiplier already set"},
+        {__LINE__, "{0,number,#.#0}", "zero mark following digit"},
+        {__LINE__, "{0,number,0#}", "digit mark (#) following zero-index"},
+        {__LINE__, "{0,number,0E0#}", "digit mark (#) following zero in exponent"},
+        {__LINE__, "{0,choice,0}", choiceSyntax},
+        {__LINE__, "{1,date}", notADate},
+        {__LINE__, "{0,choice,0#{0,choice,0#'{'x}}", illegalArgument},
+    };
+    const Arguments args = {1, "x"s};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const FakeMessages messages({{0x120001, row.pattern}, {0x120002, "lost " + row.pattern}});
+        MessageLibrary::instance().registerFacility(0x12, addressOf(0x120000));
+        EXPECT_EQ(rendered(0x120001U, args), row.words);
+        EXPECT_EQ(rendered(0x120002U, args), row.words);
+        EXPECT_EQ(rendered(row.pattern, args), "!" + row.words);
+        EXPECT_THROW(MessageLibrary::instance().formatMessage(row.pattern, args),
+                     std::runtime_error);
+    }
+}
+
+TEST(MessageLibrary, EveryBufferIsReleasedOnceWhateverFails) {
+    const std::string unconvertible = "Unable to convert message string";
+    struct {
+        int line;
+        const char* text;
+        boost::any argument;
+        int failingConversion;
+        bool allocatesOnFailure;
+        std::string outcome;
+        int buffers;
+    } const rows[] = {
+        {__LINE__, "a{0}", 1, 0, false, "a1", 1},
+        {__LINE__, "a{0}", 1, 1, false, unconvertible, 1},
+        {__LINE__, "a{0}", 1, 2, false, unconvertible, 1},
+        {__LINE__, "a{0}", static_cast<long>(1LL << 40), 0, false, "!" + longOutOfRange, 1},
+        {__LINE__, "{", 1, 0, false, illegalArgument, 1},
+        {__LINE__, "", 1, 0, false, "Invalid message ID", 0},
+        {__LINE__, "", 1, 0, true, "Invalid message ID", 1},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        FakeMessages messages({{0x130001, row.text}});
+        messages.failingConversion = row.failingConversion;
+        messages.allocatesOnFailure = row.allocatesOnFailure;
+        MessageLibrary::instance().registerFacility(0x13, addressOf(0x130000));
+        EXPECT_EQ(rendered(0x130001U, {row.argument}), row.outcome);
+        EXPECT_EQ(messages.buffers, row.buffers);
+    }
+}
+
+TEST(MessageLibrary, LineEndsOfTableTextsBecomeLf) {
+    struct {
+        int line;
+        std::string text, outcome;
+    } const rows[] = {
+        {__LINE__, "Value {0}\r\n", "Value x\r\n\n"},
+        {__LINE__, "\r\na\rb\nc\r\r\nd\n\r", "\na\rb\nc\r\nd\n\r"},
+        {__LINE__, "%1 %n!s! %% {0}", "%1 %n!s! %% x\r\n"},
+        {__LINE__, "'\r\n'", "\n"}, // one byte by the time that it is quoted
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const FakeMessages messages({{0x140001, row.text}});
+        MessageLibrary::instance().registerFacility(0x14, addressOf(0x140000));
+        EXPECT_EQ(rendered(0x140001U, {"x\r\n"s}), row.outcome);
+    }
+    EXPECT_EQ(rendered("a\r\nb"s, {}), "a\r\nb");
+}
+
+} // namespace
+} // namespace zem::msglib

@@ -1,0 +1,146 @@
+#include "message/Outcome.h"
+#include "msglib/SimpleDateFormat.h"
+
+#include <cstdint>
+#include <ctime>
+#include <limits>
+#include <random>
+
+namespace zem::msglib {
+namespace {
+
+using namespace std::string_literals;
+using Seconds = long long;
+
+std::string textOfTime(const std::string& pattern, const boost::any& value) {
+    return textOf(SimpleDateFormat(pattern, std::locale()), value);
+}
+
+TEST(SimpleDateFormat, Patterns) {
+    const std::string iso = "yyyy-MM-dd HH:mm:ss";
+    struct {
+        int line;
+        std::string pattern;
+        Seconds seconds;
+        std::string text;
+    } const rows[] = {
+        {__LINE__, iso, 0, "1970-01-01 00:00:00"},
+        {__LINE__, iso, 86399, "1970-01-01 23:59:59"},
+        {__LINE__, iso, 1000000000, "2001-09-09 01:46:40"},
+        {__LINE__, iso, -1, "1969-12-31 23:59:59"},
+        {__LINE__, "dddd, MMMM d, yyyy", 0, "Thursday, January 1, 1970"},
+        {__LINE__, "ddMMyyy g gg", 1000000000, "09092001 A.D. A.D."},
+        {__LINE__, "h t H", 43200, "12 P 12"},
+        {__LINE__, "yyyy-MM-ddTHH:mm", 0, "1970-01-01T00:00"},
+        {__LINE__, "YYYY DaSTzGE 0{}#,\xC3\xA9", 5, "YYYY DaSTzGE 0{}#,\xC3\xA9"},
+        {__LINE__, "s\0s"s, 5, "5\0"s + "5"},
+        {__LINE__, "h 'o''clock'", 0, "12 o'clock"},
+        {__LINE__, "a''b", 0, "ab"},
+        {__LINE__, "d''d", 0, "11"},
+        {__LINE__, "'", 0, ""},
+        {__LINE__, "'''", 0, "'"},
+        {__LINE__, "''''", 0, "'"},
+        {__LINE__, "'''''", 0, "''"},
+        {__LINE__, "'abc", 0, "abc"},
+        {__LINE__, "'d'd'd", 0, "d1d"},
+        {__LINE__, "", 0, ""},
+        // both ends of the calendar
+        {__LINE__, iso, -11644473600, "1601-01-01 00:00:00"},
+        {__LINE__, iso, -11644473601, "-- ::"},
+        {__LINE__, iso, 910670515199, "30827-12-31 23:59:59"},
+        {__LINE__, iso, 910692730085, "-- 02:48:05"}, // pictures end with 30827
+        {__LINE__, iso, 910692730086, "-- ::"},
+        {__LINE__, "'d'd.", INT64_MAX, "d."},
+        {__LINE__, "'d'd.", INT64_MIN, "d."},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        EXPECT_EQ(textOfTime(row.pattern, row.seconds), row.text) << row.pattern;
+    }
+}
+
+TEST(SimpleDateFormat, ReadsEveryKindAsSeconds) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const auto veryOld = static_cast<unsigned long long>(-1LL);
+    const std::string failure = "!" + notADate;
+    struct {
+        int line;
+        boost::any value;
+        std::string text;
+    } const rows[] = {
+        {__LINE__, short{-1}, "1969 23:59:59"},
+        {__LINE__, -2, "1969 23:59:58"},
+        {__LINE__, -3L, "1969 23:59:57"},
+        {__LINE__, static_cast<unsigned short>(65535), "1970 18:12:15"},
+        {__LINE__, 4294967295U, "2106 06:28:15"},
+        {__LINE__, 4294967295UL, "2106 06:28:15"},
+        {__LINE__, veryOld, "1969 23:59:59"},
+        {__LINE__, true, "1970 00:00:01"},
+        {__LINE__, 1.9, "1970 00:00:01"},
+        {__LINE__, -0.5, "1970 00:00:00"},
+        {__LINE__, -1.9F, "1969 23:59:59"},
+        {__LINE__, 16777217.9, "1970 04:20:17"},
+        // no integer, or none that has a calendar day
+        {__LINE__, std::numeric_limits<double>::quiet_NaN(), " ::"},
+        {__LINE__, std::numeric_limits<float>::quiet_NaN(), " ::"},
+        {__LINE__, infinity, " ::"},
+        {__LINE__, -infinity, " ::"},
+        {__LINE__, 0x1p63, " ::"},
+        {__LINE__, -0x1p63, " ::"},
+        {__LINE__, std::numeric_limits<float>::max(), " ::"},
+        {__LINE__, 1ULL << 63, " ::"},
+        // kinds that are no time
+        {__LINE__, 'c', failure},
+        {__LINE__, static_cast<unsigned char>(1), failure},
+        {__LINE__, 1.0L, failure},
+        {__LINE__, "1"s, failure},
+        {__LINE__, geom::Angle(1.0), failure},
+        {__LINE__, boost::any(), failure},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        EXPECT_EQ(textOfTime("yyyy HH:mm:ss", row.value), row.text);
+        EXPECT_EQ(textOfTime("", row.value), row.text.front() == '!' ? failure : "");
+    }
+}
+
+// The years that the system's C library knows, from 1601 to 9999 at most.
+#if defined(_WIN32)
+constexpr Seconds yearsBegin = 0;         // 1970
+constexpr Seconds yearsEnd = 32503680000; // 3000
+#else
+constexpr Seconds yearsBegin = -11644473600; // 1601
+constexpr Seconds yearsEnd = 253402300800;   // 10000
+#endif
+
+TEST(SimpleDateFormat, AgreesWithTheCLibrary) {
+    std::mt19937_64 random(20010909); // NOLINT: the same seconds in every run
+    std::uniform_int_distribution<Seconds> secondsOfYears(yearsBegin, yearsEnd - 1);
+    const SimpleDateFormat format("yyyy yy MM MMM MMMM dd ddd dddd HH hh mm ss tt",
+                                  std::locale::classic());
+    for (int round = 0; round < 20'000; ++round) {
+        const Seconds seconds = secondsOfYears(random);
+        const auto time = static_cast<std::time_t>(seconds);
+        const std::tm* fields = std::gmtime(&time);
+        ASSERT_NE(fields, nullptr);
+        char expected[128];
+        ASSERT_NE(std::strftime(expected, sizeof expected, "%Y %y %m %b %B %d %a %A %H %I %M %S %p",
+                                fields),
+                  0U);
+        std::string text;
+        ASSERT_EQ(format.format(seconds, text), expected) << seconds;
+    }
+}
+
+TEST(SimpleDateFormat, CopiesKeepTheirPattern) {
+    SimpleDateFormat format("yyyy", std::locale::classic());
+    SimpleDateFormat copy(format);
+    format.applyPattern("MMM");
+    EXPECT_EQ(format.format(boost::any(0)), "Jan");
+    EXPECT_EQ(copy.format(boost::any(0)), "1970");
+    copy = format;
+    EXPECT_EQ(copy.format(boost::any(0)), "Jan");
+}
+
+} // namespace
+} // namespace zem::msglib

@@ -1,0 +1,149 @@
+// Holds the documentation true: every row of its marked tables is what the library does.
+//
+// A line `<!-- checked: kind -->` marks the table behind it. The first three columns are a pattern,
+// the arguments, and what comes out: text in code quotes, the word nothing, or `fails: ` and words.
+
+#include <msglib/ChoiceFormat.h>
+#include <msglib/DecimalFormat.h>
+#include <msglib/MessageFormat.h>
+#include <msglib/SimpleDateFormat.h>
+
+#include <geom/Angle.h>
+
+#include <boost/algorithm/string.hpp>
+#include <boost/lexical_cast.hpp>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iomanip>
+#include <list>
+#include <sstream>
+#include <vector>
+
+namespace zem::msglib {
+namespace {
+
+using Arguments = std::list<boost::any>;
+
+/// Returns the cells of a table row. Inside a cell, "|" is written "\|".
+std::vector<std::string> cellsOf(const std::string& row) {
+    const std::string masked = boost::replace_all_copy(row.substr(1), "\\|", "\1");
+    std::vector<std::string> cells;
+    boost::split(cells, masked, [](char byte) { return byte == '|'; });
+    for (std::string& cell : cells) {
+        boost::trim(cell);
+        boost::replace_all(cell, "\1", "|");
+    }
+    return cells;
+}
+
+/// Returns a cell without its code quotes, with the bytes that it writes as "\xA4".
+std::string textOf(const std::string& cell) {
+    std::string text = cell == "nothing" ? "" : boost::erase_all_copy(cell, "`");
+    for (std::size_t at = 0; (at = text.find("\\x", at)) != std::string::npos; ++at) {
+        const int byte = std::stoi(text.substr(at + 2, 2), nullptr, 16);
+        text.replace(at, 4, 1, static_cast<char>(byte));
+    }
+    return text;
+}
+
+boost::any valueOf(const std::string& text) {
+    if (text == "empty") {
+        return {};
+    }
+    if (text == "true") {
+        return true;
+    }
+    if (boost::starts_with(text, "radians ")) {
+        return geom::Angle(boost::lexical_cast<double>(text.substr(8)));
+    }
+    long long whole = 0;
+    const bool isWhole = boost::conversion::try_lexical_convert(text, whole);
+    return isWhole ? boost::any(whole) : boost::any(boost::lexical_cast<double>(text));
+}
+
+Arguments argumentsOf(const std::string& list) {
+    Arguments arguments;
+    std::istringstream in(list);
+    for (std::string text; in >> std::ws && !in.eof();) {
+        if (in.peek() == '"') {
+            in >> std::quoted(text);
+            arguments.emplace_back(text);
+            in.ignore(1, ',');
+        } else {
+            std::getline(in, text, ',');
+            arguments.push_back(valueOf(text));
+        }
+    }
+    return arguments;
+}
+
+std::string render(const std::string& kind, const std::string& pattern, const Arguments& args) {
+    std::string out;
+    if (kind == "message") {
+        return MessageFormat(pattern).format(args, out);
+    }
+    const boost::any value = args.empty() ? boost::any() : args.front();
+    if (kind == "decimal") {
+        return DecimalFormat(pattern, DecimalFormatSymbols()).format(value, out);
+    }
+    if (kind == "long") {
+        const auto whole = static_cast<long>(boost::any_cast<long long>(value));
+        return DecimalFormat(pattern, DecimalFormatSymbols()).format(whole, out);
+    }
+    if (kind == "choice") {
+        return ChoiceFormat(pattern).format(value, out);
+    }
+    if (kind == "date") {
+        return SimpleDateFormat(pattern, std::locale()).format(value, out);
+    }
+    return "unknown kind of table: " + kind;
+}
+
+void checkRow(const std::string& kind, const std::vector<std::string>& cells) {
+    ASSERT_GE(cells.size(), 3U);
+    std::string actual;
+    try {
+        actual = render(kind, textOf(cells[0]), argumentsOf(textOf(cells[1])));
+    } catch (const std::exception& failure) {
+        actual = std::string("fails: ") + failure.what();
+    }
+    EXPECT_EQ(actual, textOf(cells[2])) << cells[0];
+}
+
+/// Checks the marked tables of one page and returns how many rows they have.
+int checkPage(const std::string& path) {
+    const std::string mark = "<!-- checked: ";
+    std::ifstream page(path);
+    std::string kind;
+    int tableLine = 0;
+    int rows = 0;
+    int line = 1;
+    for (std::string text; std::getline(page, text); ++line) {
+        if (boost::starts_with(text, mark)) {
+            kind = text.substr(mark.size(), text.find(" -->") - mark.size());
+            tableLine = 0;
+        } else if (!boost::starts_with(text, "|")) {
+            kind.clear();
+        } else if (!kind.empty() && ++tableLine > 2) { // behind the head and its rule
+            const testing::ScopedTrace trace(path.c_str(), line, "");
+            checkRow(kind, cellsOf(text));
+            ++rows;
+        }
+    }
+    return rows;
+}
+
+TEST(Docs, TablesAreTrue) {
+    const std::pair<const char*, int> fewestRows[] = {
+        {"/message-patterns.md", 60}, {"/decimal-patterns.md", 60}, {"/choice-patterns.md", 25},
+        {"/date-patterns.md", 30},    {"/failures.md", 14},
+    };
+    for (const auto& [page, fewest] : fewestRows) {
+        EXPECT_GE(checkPage(std::string(MSGLIB_DOCS_FOLDER) + page), fewest) << page;
+    }
+}
+
+} // namespace
+} // namespace zem::msglib

@@ -1,0 +1,6 @@
+file(READ ${PAGE} page)
+file(READ ${PART} part)
+string(FIND "${page}" "${part}" position)
+if(position EQUAL -1)
+    message(FATAL_ERROR "${PAGE} does not show ${PART} as it is")
+endif()

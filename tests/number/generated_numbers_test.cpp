@@ -1,0 +1,140 @@
+#include "msglib/ChoiceFormat.h"
+#include "msglib/DecimalFormat.h"
+#include "number/PowersOfTen.h"
+#include "support/PlainDecimal.h"
+#include "support/Rendering.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <iostream>
+#include <random>
+#include <set>
+#include <string_view>
+
+namespace zem::msglib {
+namespace {
+
+template <class Number>
+std::string quickText(const NumberFormat& format, Number value) {
+    std::string text;
+    return format.format(value, text);
+}
+
+// Calls `check` with every text that adds up to `length` of the `bytes` to `text`, until a test
+// fails.
+template <class Check>
+void forEachText(std::string_view bytes, int length, std::string text, const Check& check) {
+    check(text);
+    if (length == 0 || testing::Test::HasFailure()) {
+        return;
+    }
+    for (const char byte : bytes) {
+        forEachText(bytes, length - 1, text + byte, check);
+    }
+}
+
+// A formatter that has had all the patterns before has to agree with one that had none of them.
+template <class Formatter, class Check>
+std::set<std::string> compileAll(std::string_view bytes, const Formatter& start,
+                                 const Check& check) {
+    std::set<std::string> outcomes;
+    Formatter reused = start;
+    forEachText(bytes, 5, "", [&](const std::string& pattern) {
+        Formatter fresh = start;
+        const std::string outcome = failureOf([&] { fresh.applyPattern(pattern); });
+        outcomes.insert(outcome);
+        ASSERT_EQ(failureOf([&] { reused.applyPattern(pattern); }), outcome) << pattern;
+        ASSERT_EQ(quickText(reused, -1234.5), quickText(fresh, -1234.5)) << pattern;
+        check(pattern, fresh);
+    });
+    return outcomes;
+}
+
+TEST(GeneratedPatterns, EveryShortDecimalPattern) {
+    const DecimalFormat start("(#,000.00##E000%;[#]", {});
+    const auto outcomes = compileAll(
+        ".,#0E;%\xA4'x", start, [](const std::string& pattern, const DecimalFormat& format) {
+            if (pattern.find_first_of("%E") == std::string::npos) {
+                ASSERT_EQ(quickText(format, 1234L), quickText(format, 1234.0)) << pattern;
+            }
+        });
+    const std::set<std::string> documented = {"no failure",
+                                              "digit mark (#) following zero-index",
+                                              "zero mark following digit",
+                                              "digit mark (#) following zero in exponent",
+                                              "multiplier already set",
+                                              "separator character expected",
+                                              "end of pattern expected"};
+    EXPECT_EQ(outcomes, documented);
+}
+
+TEST(GeneratedPatterns, EveryShortChoicePattern) {
+    const auto outcomes =
+        compileAll("+#<|{}'1", ChoiceFormat("5#former|6#pattern"),
+                   [](const std::string&, const ChoiceFormat& format) { quickText(format, 1L); });
+    const std::set<std::string> documented = {"no failure", "Syntax error in choice format."};
+    EXPECT_EQ(outcomes, documented);
+}
+
+double doubleOf(std::uint64_t bits) {
+    double value = 0.0;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+}
+
+// Doubles of the kinds that break the writing of numbers, one kind after the other. Numbers with
+// hundreds of digits take long, so they are rare.
+double someDouble(int count, std::mt19937_64& random) {
+    const std::uint64_t bits = random();
+    const double sign = bits % 2 == 0 ? 1.0 : -1.0;
+    const auto small = static_cast<double>(bits % 2000000);
+    const int exponent = static_cast<int>(bits % 48) - 24;
+    const double neighbour = sign * (count % 3 == 0 ? 1.0 : 1.0 + std::ldexp(count % 3 - 1.5, -52));
+    switch (count % 64) {
+    case 0: return doubleOf(bits);
+    case 1: return sign * doubleOf(bits >> 12U); // subnormal
+    default: break;
+    }
+    switch (count % 5) {
+    case 0: return neighbour * (small + 0.5);
+    case 1: return neighbour * (small + 0.5) / 1000.0;
+    case 2: return neighbour * std::pow(10.0, exponent);
+    case 3: return sign * std::ldexp(0.5 + static_cast<double>(bits >> 11U) * 0x1p-53, 53);
+    default: return sign * std::ldexp(static_cast<double>(bits >> 11U), exponent - 52);
+    }
+}
+
+TEST(GeneratedNumbers, AgreeWithAPlainReading) {
+    const struct {
+        int line;
+        const char* pattern;
+        PlainDecimal plain;
+    } rows[] = {
+        {__LINE__, "0", {"", "", "", "", 1, 0, 1, 0, 0, -1}},
+        {__LINE__, "#,##0.00#", {"", "", "", "", 1, 3, 1, 2, 3, -1}},
+        {__LINE__, "#.##%", {"", "%", "", "", 100, 0, 0, 0, 2, -1}},
+        {__LINE__, "00.0###E00;#-", {"", "", "", "-", 1, 0, 2, 1, 4, 2}},
+        {__LINE__, "\xA4#,##0.00;(\xA4#)", {"$", "", "($", ")", 1, 3, 1, 2, 2, -1}},
+    };
+    constexpr int numbers = 1000000;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const DecimalFormat format(row.pattern, {});
+        std::mt19937_64 random(20);
+        for (int count = 0; count < numbers; ++count) {
+            const double value = someDouble(count, random);
+            ASSERT_EQ(quickText(format, value), row.plain.text(value)) << std::hexfloat << value;
+        }
+    }
+    std::cout << numbers << " numbers in each of " << std::size(rows) << " patterns\n";
+}
+
+TEST(GeneratedNumbers, PowersOfTenAreThoseOfTheStandardLibrary) {
+    for (int exponent = -400; exponent <= 400; ++exponent) {
+        EXPECT_EQ(powerOfTen(exponent), std::pow(10.0, exponent)) << exponent;
+    }
+}
+
+} // namespace
+} // namespace zem::msglib

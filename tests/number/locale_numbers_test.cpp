@@ -1,0 +1,210 @@
+#include "number/LocaleNumberFormat.h"
+#include "platform/LocaleServices.h"
+#include "support/FakeLocale.h"
+#include "support/Rendering.h"
+
+#include <cmath>
+#include <memory>
+
+namespace zem::msglib {
+namespace {
+
+using namespace platform;
+
+const LocaleValues otherSymbols = {{LOCALE_SDECIMAL, ","},       {LOCALE_STHOUSAND, "."},
+                                   {LOCALE_SMONDECIMALSEP, ":"}, {LOCALE_SMONTHOUSANDSEP, "'"},
+                                   {LOCALE_SCURRENCY, "EUR"},    {LOCALE_SINTLSYMBOL, "XYZ"},
+                                   {LOCALE_SNEGATIVESIGN, "~"},  {LOCALE_SNATIVEDIGITS, "ABC"}};
+
+// The symbols as one text, but for those that are always the same.
+std::string dump(const DecimalFormatSymbols& symbols) {
+    EXPECT_EQ(symbols.getInfinity() + symbols.getNaN(), "1.#INF1.#NaN");
+    EXPECT_EQ((std::string{symbols.getPercent(), symbols.getExponential()}), "%E");
+    return symbols.getCurrencySymbol() + " " + symbols.getInternationalCurrencySymbol() + " " +
+           symbols.getMinusSign() + symbols.getDecimalSeparator() +
+           symbols.getMonetaryDecimalSeparator() + symbols.getGroupingSeparator() +
+           symbols.getMonetaryGroupingSeparator() + symbols.getZeroDigit();
+}
+
+TEST(LocaleSymbols, EachComesFromItsOwnQuery) {
+    const struct {
+        int line;
+        std::uint32_t lctype;
+        const char* failing; ///< symbols if this query fails
+        const char* empty;   ///< symbols if it succeeds with no text
+    } rows[] = {
+        {__LINE__, LOCALE_SCURRENCY, "$ XYZ ~,:.'A", " XYZ ~,:.'A"},
+        {__LINE__, LOCALE_SINTLSYMBOL, "EUR $ ~,:.'A", "EUR  ~,:.'A"},
+        {__LINE__, LOCALE_SNEGATIVESIGN, "EUR XYZ -,:.'A", "EUR XYZ ,:.'A"},
+        {__LINE__, LOCALE_SDECIMAL, "EUR XYZ ~.:.'A", "EUR XYZ ~:.'A"},
+        {__LINE__, LOCALE_SMONDECIMALSEP, "EUR XYZ ~,..'A", "EUR XYZ ~,.'A"},
+        {__LINE__, LOCALE_STHOUSAND, "EUR XYZ ~,:,'A", "EUR XYZ ~,:'A"},
+        {__LINE__, LOCALE_SMONTHOUSANDSEP, "EUR XYZ ~,:.,A", "EUR XYZ ~,:.A"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const FakeLocale locale(otherSymbols);
+        FakeLocale::values[row.lctype] = "";
+        EXPECT_EQ(dump(DecimalFormatSymbols(std::locale::classic())), row.empty);
+        FakeLocale::values.erase(row.lctype);
+        EXPECT_EQ(dump(DecimalFormatSymbols()), row.failing);
+    }
+    const std::string longest(63, 'k');
+    const FakeLocale locale({{LOCALE_SCURRENCY, longest}, {LOCALE_SINTLSYMBOL, longest + "k"}});
+    EXPECT_EQ(dump(DecimalFormatSymbols()), longest + " $ -..,,0");
+    FakeLocale::values.clear();
+    EXPECT_EQ(dump(DecimalFormatSymbols()), "$ $ -..,,0");
+    const FakeLocale wordy({{LOCALE_STHOUSAND, longest}, {LOCALE_SDECIMAL, longest}});
+    const std::string text = textOf(DecimalFormat("#,0.0", {}), 1.7976931348623157e308);
+    EXPECT_EQ(text.size(), 309 + 309 * longest.size() + 1);
+}
+
+TEST(LocaleSymbols, StandInTexts) {
+    LocaleValues digits = otherSymbols;
+    digits[LOCALE_SNATIVEDIGITS] = "0";
+    const LocaleValues wide = {{LOCALE_STHOUSAND, "\xC2\xA0"}, {LOCALE_SDECIMAL, "<.>"}};
+    const LocaleValues none = {
+        {LOCALE_STHOUSAND, ""}, {LOCALE_SDECIMAL, ""}, {LOCALE_SNEGATIVESIGN, ""}};
+    const struct {
+        int line;
+        const LocaleValues& values;
+        const char* pattern;
+        double value;
+        const char* text;
+        const char* longText; ///< of the whole part
+    } rows[] = {
+        {__LINE__, digits, "\xA4#,##0.00", 1234.5, "EUR1'234:50", "EUR1'234:00"},
+        {__LINE__, digits, "$#,##0.00", 1234.5, "$1.234,50", "$1.234,00"},
+        {__LINE__, digits, "'\xA4'0.0", 1.5, "\xA4\x31,5", "\xA4\x31,0"},
+        {__LINE__, digits, "#,##0.0 \xA4\xA4", -1234.5, "~1'234:5 XYZ", "~1'234:0 XYZ"},
+        {__LINE__, digits, "#,##0.0;#\xA4", 1234.5, "1'234:5", "1'234:0"},
+        {__LINE__, digits, "0.###E0", -0.00123, "~1,23E~3", "0E0"},
+        {__LINE__, wide, "0,0,0.0", 12.5, "0\xC2\xA0\x31\xC2\xA0\x32<.>5",
+         "0\xC2\xA0\x31\xC2\xA0\x32<.>0"},
+        {__LINE__, none, "#,##0.0", -1234567.5, "12345675", "12345670"},
+        {__LINE__, otherSymbols, "#,##0.00", 7.5, "H,FA", "H,AA"},
+        {__LINE__, otherSymbols, "00,000.0E00", 1230.0, "BC.DAA,AE~AB", "BC.DAA,AE~AB"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const FakeLocale locale(row.values);
+        DecimalFormat format("\xA4", DecimalFormatSymbols());
+        FakeLocale::values.clear();
+        format.applyPattern(row.pattern);
+        EXPECT_EQ(textOf(format, row.value), row.text);
+        EXPECT_EQ(textOf(format, static_cast<long>(row.value)), row.longText);
+    }
+}
+
+using Factory = NumberFormat* (*)(const std::locale&);
+
+const Factory number = NumberFormat::getNumberInstance;
+const Factory integer = NumberFormat::getIntegerInstance;
+const Factory currency = NumberFormat::getCurrencyInstance;
+const Factory percent = NumberFormat::getPercentInstance;
+
+// The form of what the factory makes. A plain placeholder has to write its numbers alike.
+std::string formOf(Factory factory) {
+    const std::locale locale;
+    const std::unique_ptr<NumberFormat> format(factory(locale));
+    if (factory == number || factory == integer) {
+        const auto type = factory == number ? NumberFormat::Number : NumberFormat::Integer;
+        for (const double value :
+             {0.0, 0.5, 4.005, 1234567.891, 1e23, -1234.5, HUGE_VAL, std::nan("")}) {
+            std::string text = "kept";
+            LocaleNumberFormat::append(value, locale, type, text);
+            EXPECT_EQ(text, "kept" + textOf(*format, value)) << value;
+        }
+    }
+    return dump(*format);
+}
+
+TEST(LocalePatterns, FollowTheLocaleValues) {
+    const struct {
+        int line;
+        Factory factory;
+        const char *grouping, *zero, *digits, *mark, *negative;
+        const char* form;
+    } rows[] = {
+        {__LINE__, number, "3;2;0", "1", "3", "", "4",
+         "1.3-3, | 0.000 | 1,234,567.891 | 1,234.500 -"},
+        {__LINE__, number, "3;0", "0", "2", "", "2", "0.2-2, | .00 | 1,234,567.89 | - 1,234.50"},
+        {__LINE__, number, "0", "0", "0", "", "0", "0.0-0 |  | 1234568 | (1235)"},
+        {__LINE__, number, "1", "1", "1", "", "3", "1.1-1, | 0.0 | 1,2,3,4,5,6,7.9 | 1,2,3,4.5-"},
+        {__LINE__, number, "", "10", " 1x", "", "3x", "1.1-1 | 0.0 | 1234567.9 | 1234.5-"},
+        {__LINE__, number, "x", "", "", "", "", "0.0-0 |  | 1234568 | -1235"},
+        {__LINE__, number, "10", "1", "4097", "", "/", "1.0-0, | 0 | 1234568 | -1235"},
+        {__LINE__, integer, "-1", "1", "2", "", "5", "1.0-0 | 0 | 1234568 | -1235"},
+        {__LINE__, percent, "3", "1", "1", "", "0",
+         "1.1-1, | 0.0% | 123,456,789.1% | (123,450.0%)"},
+        {__LINE__, percent, "0", "1", "0", "", "1", "1.0-0 | 0% | 123456789% | -123450%"},
+        {__LINE__, percent, "0", "1", "0", "", "2", "1.0-0 | 0% | 123456789% | - 123450%"},
+        {__LINE__, percent, "0", "1", "0", "", "3", "1.0-0 | 0% | 123456789% | 123450%-"},
+        {__LINE__, percent, "0", "0", "0", "", "4", "0.0-0 | % | 123456789% | 123450% -"},
+        {__LINE__, currency, "3", "1", "2", "0", "0",
+         "1.2-2, | kr0.00 | kr1,234,567.89 | (kr1,234.50)"},
+        {__LINE__, currency, "3", "1", "0", "1", "5", "1.0-0, | 0kr | 1,234,568kr | -1,235kr"},
+        {__LINE__, currency, "3", "1", "0", "2", "9", "1.0-0, | kr 0 | kr 1,234,568 | -kr 1,235"},
+        {__LINE__, currency, "3", "1", "0", "3", "8", "1.0-0, | 0 kr | 1,234,568 kr | -1,235 kr"},
+        {__LINE__, currency, "2", "1", "0", "7", "16", "1.0-0, | 0 | 1,23,45,68 | -12,35"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const bool amount = row.factory == currency;
+        const FakeLocale locale({{amount ? LOCALE_SMONGROUPING : LOCALE_SGROUPING, row.grouping},
+                                 {LOCALE_ILZERO, row.zero},
+                                 {amount ? LOCALE_ICURRDIGITS : LOCALE_IDIGITS, row.digits},
+                                 {LOCALE_ICURRENCY, row.mark},
+                                 {amount ? LOCALE_INEGCURR : LOCALE_INEGNUMBER, row.negative}});
+        EXPECT_EQ(formOf(row.factory), row.form);
+    }
+}
+
+TEST(LocalePatterns, SixteenFormsOfNegativeCurrency) {
+    const char* const forms[] = {"(kr1)", "-kr1",  "kr-1",   "kr1-",  "(1kr)", "-1kr",
+                                 "1-kr",  "1kr-",  "-1 kr",  "-kr 1", "1 kr-", "kr 1-",
+                                 "kr -1", "1- kr", "(kr 1)", "(1 kr)"};
+    for (std::size_t form = 0; form < std::size(forms); ++form) {
+        SCOPED_TRACE(form);
+        const FakeLocale locale({{LOCALE_ICURRDIGITS, "0"},
+                                 {LOCALE_ICURRENCY, "none"},
+                                 {LOCALE_INEGCURR, std::to_string(form)}});
+        const std::unique_ptr<NumberFormat> format(currency(std::locale()));
+        EXPECT_EQ(textOf(*format, -1.0), forms[form]);
+    }
+}
+
+TEST(LocalePatterns, WithoutLocaleValues) {
+    const struct {
+        int line;
+        Factory factory;
+        const char* absent;  ///< form if the locale isn't installed
+        const char* failing; ///< form if every query fails
+    } rows[] = {
+        {__LINE__, number, "1.0-3, | 0 | 1,234,567.891 | -1,234.5", "0.0-0 |  | 1234568 | -1235"},
+        {__LINE__, integer, "1.0-3, | 0 | 1,234,567.891 | -1,234.5", "0.0-0 |  | 1234568 | -1235"},
+        {__LINE__, currency, "1.2-2, | $0.00 | $1,234,567.89 | ($1,234.50)",
+         "0.0-0 |  | 1234568 | ($1235)"},
+        {__LINE__, percent, "1.0-0, | 0% | 123,456,789% | -123,450%",
+         "0.0-0 | % | 123456789% | -123450%"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const FakeLocale locale;
+        FakeLocale::installed = false;
+        EXPECT_EQ(formOf(row.factory), row.absent);
+        FakeLocale::installed = true;
+        FakeLocale::values.erase(LOCALE_STHOUSAND);
+        EXPECT_NE(formOf(row.factory), row.failing);
+        FakeLocale::values.clear();
+        EXPECT_EQ(formOf(row.factory), row.failing);
+    }
+    const FakeLocale other(otherSymbols);
+    EXPECT_EQ(formOf(number), "1.2-2, | A,AA | B.CDE.FGH,IJ | -B.CDE,FA");
+    const auto unknown = static_cast<NumberFormat::FormatType>(4);
+    EXPECT_EQ(dump(LocaleNumberFormat::make(std::locale(), unknown, "0.0")),
+              "0.0-0 |  | BCDEFGI | ~BCDF");
+}
+
+} // namespace
+} // namespace zem::msglib

@@ -1,0 +1,36 @@
+# Fails if LIBRARY exports a symbol that is no member, virtual table or type information of the classes that the file
+# CLASSES lists, and no output operator of the stream, or if it exports nothing of one of them.
+
+cmake_minimum_required(VERSION 3.25)
+file(STRINGS ${CLASSES} classes)
+if(LIBRARY MATCHES "\\.dll$")
+    execute_process(COMMAND ${OBJDUMP} --private-headers ${LIBRARY} COMMAND ${CXXFILT}
+        OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX REPLACE "^.*\n\\[Ordinal/Name Pointer\\] Table\n|\n\n.*$" "" output "${output}")
+    set(before_name "^\t_ *[0-9]+_ ")
+else()
+    execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
+        OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+    set(before_name "^[0-9a-f]* +[A-Za-z] ")
+endif()
+string(REGEX REPLACE "[;[]|]" "_" output "${output}")
+string(REGEX MATCHALL "[^\n]+" lines "${output}")
+
+set(leaked)
+set(seen)
+foreach(line IN LISTS lines)
+    string(REGEX REPLACE "${before_name}" "" symbol "${line}")
+    string(REGEX REPLACE "^(vtable|typeinfo|typeinfo name) for " "" name "${symbol}")
+    if(name MATCHES "^zem::msglib::([A-Za-z]+)(::|$)" AND CMAKE_MATCH_1 IN_LIST classes)
+        list(APPEND seen ${CMAKE_MATCH_1})
+    elseif(NOT name MATCHES "^zem::msglib::operator<<\\(zem::msglib::MessageFormatStream const&")
+        list(APPEND leaked ${symbol})
+    endif()
+endforeach()
+
+list(REMOVE_ITEM classes ${seen})
+if(leaked OR classes)
+    list(JOIN leaked "\n  " leaked)
+    list(JOIN classes "\n  " classes)
+    message(FATAL_ERROR "exported but not listed:\n  ${leaked}\nlisted but not exported:\n  ${classes}")
+endif()

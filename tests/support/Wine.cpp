@@ -1,0 +1,15 @@
+#include "support/Wine.h"
+
+#define BOOST_DLL_USE_STD_FS
+#include <boost/dll/shared_library.hpp>
+
+namespace zem::msglib {
+
+bool runsUnderWine() {
+    std::error_code error;
+    const boost::dll::shared_library system("ntdll.dll", error,
+                                            boost::dll::load_mode::search_system_folders);
+    return system.is_loaded() && system.has("wine_get_version");
+}
+
+} // namespace zem::msglib

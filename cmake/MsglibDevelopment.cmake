@@ -33,6 +33,10 @@ function(msglib_check_arithmetic)
     endif()
 endfunction()
 
+# Lets the linker optimise the shared library as a whole in release builds. A static one stays readable for any compiler.
+include(CheckIPOSupported)
+check_ipo_supported(RESULT MSGLIB_LINK_TIME_OPTIMISATION OUTPUT ignored LANGUAGES CXX)
+
 # Gives a target of this project its warnings and sanitizers, and hides what it does not export.
 function(msglib_own_target target)
     set_target_properties(${target} PROPERTIES

@@ -21,8 +21,18 @@ void* PlugIn::address(const char* name) const {
 #else
 #include <dlfcn.h>
 
+#include <filesystem>
+
+namespace {
+
+std::string besideProgram(const std::string& file) {
+    return std::filesystem::read_symlink("/proc/self/exe").replace_filename(file);
+}
+
+} // namespace
+
 PlugIn::PlugIn(const std::string& name)
-    : handle_(dlopen((name + PLUG_IN_SUFFIX).c_str(), RTLD_NOW | RTLD_LOCAL)) {
+    : handle_(dlopen(besideProgram(name + PLUG_IN_SUFFIX).c_str(), RTLD_NOW | RTLD_LOCAL)) {
     if (handle_ == nullptr) {
         throw std::runtime_error(dlerror());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "msglib/MessageFormat.h"
+#include "msglib/MessageLibrary.h"
 
 #include <geom/Angle.h>
 
@@ -42,13 +43,27 @@ std::string textOf(const Formatter& formatter, const Value& value) {
     return out.substr(kept.size()) + failure;
 }
 
+/// Renders at once, without a compiled form to keep: as `textOf`, or only "!" and the words.
+inline std::string outcomeAtOnce(const std::string& pattern, const Arguments& args) {
+    try {
+        return MessageLibrary::instance().formatMessage(pattern, args);
+    } catch (const std::exception& caught) {
+        return std::string("!") + caught.what();
+    }
+}
+
 /// Compiles and renders: as `textOf`, or "compile!" and the words if the pattern does not compile.
 inline std::string outcome(const std::string& pattern, const Arguments& args) {
+    std::string kept;
     try {
-        return textOf(MessageFormat(pattern), args);
+        kept = textOf(MessageFormat(pattern), args);
     } catch (const std::exception& caught) {
-        return std::string("compile!") + caught.what();
+        kept = std::string("compile!") + caught.what();
     }
+    const std::string atOnce = outcomeAtOnce(pattern, args);
+    EXPECT_EQ(kept.find('!') != std::string::npos ? kept.substr(kept.rfind('!')) : kept, atOnce)
+        << pattern;
+    return kept;
 }
 
 struct OutcomeRow {

@@ -59,7 +59,7 @@ TEST(MessagePattern, Placeholders) {
         {__LINE__, "{0,}{0,,}{0,foo,bar}{0,x{y}z}", two, "aaaa"},
         {__LINE__, "{0,Number}{0, number}{0,number }{0,date x}", two, "aaaa"},
         // what reaches the formatter of a segment
-        {__LINE__, "{0,date,x{y}z}", {0}, "x{0}z"},
+        {__LINE__, "{0,date,x{d}z}", {0}, "x{1}z"},
         {__LINE__, "{0,date,,,d}", {0}, ",,1"},
         {__LINE__, "{0,date,'y'}", {0}, "y"},
         {__LINE__, "{0,date,'}'d'{'}", {0}, "}1{"},

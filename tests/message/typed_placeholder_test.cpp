@@ -42,7 +42,7 @@ TEST(TypedPlaceholder, EveryStyleWithEveryKind) {
         {__LINE__, "{0,date,long}", longEpoch, longEpoch, longEpoch, date, date, date},
         {__LINE__, "{0,date,full}", longEpoch, longEpoch, longEpoch, date, date, date},
         {__LINE__, "{0,date,Short}", "S12orA", "S12orA", "S12orA", date, date, date},
-        {__LINE__, "{0,date,y s}", "0 7", "0 1", "0 7", date, date, date},
+        {__LINE__, "{0,date,d s}", "1 7", "1 1", "1 7", date, date, date},
         {__LINE__, "{0,time}", "12:00:07 AM", "12:00:01 AM", "12:00:07 AM", date, date, date},
         {__LINE__, "{0,time,short}", "712orA", "112orA", "712orA", date, date, date},
         {__LINE__, "{0,time,HHmmss}", "000007", "000001", "000007", date, date, date},

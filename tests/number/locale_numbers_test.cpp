@@ -103,18 +103,24 @@ const Factory integer = NumberFormat::getIntegerInstance;
 const Factory currency = NumberFormat::getCurrencyInstance;
 const Factory percent = NumberFormat::getPercentInstance;
 
-// The form of what the factory makes. A plain placeholder has to write its numbers alike.
+// The form of what the factory makes. A placeholder has to write its numbers alike.
 std::string formOf(Factory factory) {
     const std::locale locale;
     const std::unique_ptr<NumberFormat> format(factory(locale));
-    if (factory == number || factory == integer) {
-        const auto type = factory == number ? NumberFormat::Number : NumberFormat::Integer;
-        for (const double value :
-             {0.0, 0.5, 4.005, 1234567.891, 1e23, -1234.5, HUGE_VAL, std::nan("")}) {
-            std::string text = "kept";
-            LocaleNumberFormat::append(value, locale, type, text);
-            EXPECT_EQ(text, "kept" + textOf(*format, value)) << value;
-        }
+    const std::unique_ptr<NumberFormat> rounded(NumberFormat::getNumberInstance(locale));
+    rounded->setMaximumFractionDigits(0);
+    const auto type = factory == number     ? NumberFormat::Number
+                      : factory == integer  ? NumberFormat::Integer
+                      : factory == currency ? NumberFormat::Currency
+                                            : NumberFormat::Percent;
+    for (const double value :
+         {0.0, 0.5, 4.005, 1234567.891, 1e23, 1e307, -1234.5, HUGE_VAL, std::nan("")}) {
+        std::string text = "kept";
+        LocaleNumberFormat::append(value, locale, type, text);
+        EXPECT_EQ(text, "kept" + textOf(*format, value)) << value;
+        text = "kept";
+        LocaleNumberFormat::appendRounded(value, locale, text);
+        EXPECT_EQ(text, "kept" + textOf(*rounded, value)) << value;
     }
     return dump(*format);
 }

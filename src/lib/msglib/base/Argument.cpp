@@ -12,6 +12,7 @@ struct KindOfType {
 };
 
 const KindOfType kindsOfTypes[] = {
+    {&typeid(std::string), ArgumentKind::Text},
     {&typeid(int), ArgumentKind::Int},
     {&typeid(double), ArgumentKind::Double},
     {&typeid(unsigned int), ArgumentKind::UnsignedInt},
@@ -30,9 +31,6 @@ const KindOfType kindsOfTypes[] = {
 
 ArgumentKind kindOf(const boost::any& argument) noexcept {
     const std::type_info& held = argument.type();
-    if (held == typeid(std::string)) {
-        return ArgumentKind::Text;
-    }
     for (const KindOfType& row : kindsOfTypes) {
         if (&held == row.type) {
             return row.kind;

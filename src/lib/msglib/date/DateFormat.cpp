@@ -8,11 +8,11 @@ namespace zem::msglib {
 DateFormat::~DateFormat() = default;
 
 DateFormat* DateFormat::getDateInstance(Style style, const std::locale& locale) {
-    return new SimpleDateFormat(localeDatePattern(style), locale);
+    return new SimpleDateFormat(std::string(LocaleDatePattern(style).text()), locale);
 }
 
 DateFormat* DateFormat::getTimeInstance(const std::locale& locale) {
-    return new SimpleDateFormat(localeTimePattern(), locale);
+    return new SimpleDateFormat(std::string(LocaleDatePattern::time().text()), locale);
 }
 
 } // namespace zem::msglib

@@ -1,16 +1,10 @@
 #include "date/LocaleDatePattern.h"
 
-#include "base/LocaleValue.h"
-
 namespace zem::msglib {
 
 namespace {
 
-std::string localePicture(std::uint32_t lctype) {
-    return std::string(LocaleDateValue(lctype).text());
-}
-
-std::string mediumPattern() {
+std::string_view mediumPattern() noexcept {
     switch (LocaleDateValue(platform::LOCALE_ILDATE).first()) {
     case '0': return "MMM dd yy";
     case '1': return "dd MMM yy";
@@ -21,18 +15,17 @@ std::string mediumPattern() {
 
 } // namespace
 
-std::string localeDatePattern(DateFormat::Style style) {
+LocaleDatePattern::LocaleDatePattern(DateFormat::Style style) noexcept {
     switch (style) {
     case DateFormat::Short:
-    case DateFormat::ShortAlternate: return localePicture(platform::LOCALE_SSHORTDATE);
-    case DateFormat::Long: return localePicture(platform::LOCALE_SLONGDATE);
-    case DateFormat::Medium: return mediumPattern();
+    case DateFormat::ShortAlternate: value_.emplace(platform::LOCALE_SSHORTDATE); break;
+    case DateFormat::Long: value_.emplace(platform::LOCALE_SLONGDATE); break;
+    case DateFormat::Medium: fixed_ = mediumPattern(); break;
     }
-    return {};
 }
 
-std::string localeTimePattern() {
-    return localePicture(platform::LOCALE_STIMEFORMAT);
+LocaleDatePattern LocaleDatePattern::time() noexcept {
+    return LocaleDatePattern(platform::LOCALE_STIMEFORMAT);
 }
 
 } // namespace zem::msglib

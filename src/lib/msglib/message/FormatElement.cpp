@@ -2,16 +2,14 @@
 
 #include "base/Failure.h"
 #include "date/LocaleDatePattern.h"
+#include "message/PlaceholderStyle.h"
 #include "msglib/ChoiceFormat.h"
 #include "msglib/SimpleDateFormat.h"
 #include "number/LocaleNumberFormat.h"
 
-#include <string_view>
 #include <utility>
 
 namespace zem::msglib {
-
-using namespace std::string_view_literals;
 
 namespace {
 
@@ -19,58 +17,45 @@ std::shared_ptr<Format> makeDateFormat(std::string pattern, const std::locale& l
     return std::make_shared<SimpleDateFormat>(std::move(pattern), locale);
 }
 
+std::shared_ptr<Format> makeDateFormat(DateFormat::Style style, const std::locale& locale) {
+    return makeDateFormat(std::string(LocaleDatePattern(style).text()), locale);
+}
+
 } // namespace
 
 void FormatElement::buildFormat(const std::locale& locale) {
-    const std::string_view type = type_;
-    if (type == "number"sv) {
-        buildNumberFormat(locale);
-    } else if (type == "date"sv) {
-        buildDateFormat(locale);
-    } else if (type == "time"sv) {
-        buildTimeFormat(locale);
-    } else if (type == "choice"sv) {
-        buildChoiceFormat();
-    }
-}
-
-void FormatElement::buildNumberFormat(const std::locale& locale) {
-    const std::string_view style = style_;
-    if (style == "currency"sv) {
+    switch (placeholderStyle(type_, style_)) {
+    case PlaceholderStyle::ByKind: return;
+    case PlaceholderStyle::Number:
+        format_ = LocaleNumberFormat::makeShared(locale, NumberFormat::Number);
+        return;
+    case PlaceholderStyle::Integer: format_ = LocaleNumberFormat::makeSharedRounded(locale); return;
+    case PlaceholderStyle::Currency:
         format_ = LocaleNumberFormat::makeShared(locale, NumberFormat::Currency);
         return;
-    }
-    if (style == "percent"sv) {
+    case PlaceholderStyle::Percent:
         format_ = LocaleNumberFormat::makeShared(locale, NumberFormat::Percent);
         return;
+    case PlaceholderStyle::CustomNumber: buildCustomNumber(locale); return;
+    case PlaceholderStyle::ShortDate: format_ = makeDateFormat(DateFormat::Short, locale); return;
+    case PlaceholderStyle::MediumDate: format_ = makeDateFormat(DateFormat::Medium, locale); return;
+    case PlaceholderStyle::LongDate: format_ = makeDateFormat(DateFormat::Long, locale); return;
+    case PlaceholderStyle::Time:
+        format_ = makeDateFormat(std::string(LocaleDatePattern::time().text()), locale);
+        return;
+    case PlaceholderStyle::CustomDate: format_ = makeDateFormat(style_, locale); return;
+    case PlaceholderStyle::Choice: buildChoice(); return;
     }
+}
+
+// A pattern that fails leaves the formatter as far as it was compiled.
+void FormatElement::buildCustomNumber(const std::locale& locale) {
     const auto number = LocaleNumberFormat::makeShared(locale, NumberFormat::Number);
     format_ = number;
-    if (style == "integer"sv) {
-        number->setMaximumFractionDigits(0);
-    } else if (!style.empty()) {
-        number->applyPattern(style_);
-    }
+    number->applyPattern(style_);
 }
 
-void FormatElement::buildDateFormat(const std::locale& locale) {
-    const std::string_view style = style_;
-    if (style == "short"sv) {
-        format_ = makeDateFormat(localeDatePattern(DateFormat::Short), locale);
-    } else if (style == "medium"sv || style.empty()) {
-        format_ = makeDateFormat(localeDatePattern(DateFormat::Medium), locale);
-    } else if (style == "long"sv || style == "full"sv) {
-        format_ = makeDateFormat(localeDatePattern(DateFormat::Long), locale);
-    } else {
-        format_ = makeDateFormat(style_, locale);
-    }
-}
-
-void FormatElement::buildTimeFormat(const std::locale& locale) {
-    format_ = makeDateFormat(style_.empty() ? localeTimePattern() : style_, locale);
-}
-
-void FormatElement::buildChoiceFormat() {
+void FormatElement::buildChoice() {
     if (style_.empty()) {
         raise(Failure::ChoiceStyleMissing);
     }

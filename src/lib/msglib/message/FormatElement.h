@@ -25,10 +25,8 @@ struct FormatElement {
     void buildFormat(const std::locale& locale);
 
 private:
-    void buildNumberFormat(const std::locale& locale);
-    void buildDateFormat(const std::locale& locale);
-    void buildTimeFormat(const std::locale& locale);
-    void buildChoiceFormat();
+    void buildCustomNumber(const std::locale& locale);
+    void buildChoice();
 };
 
 } // namespace zem::msglib

@@ -1,10 +1,12 @@
 #include "message/MessageRenderer.h"
 
 #include "base/Argument.h"
-#include "base/Extraction.h"
+#include "date/LocaleDatePattern.h"
+#include "message/PlainPattern.h"
 #include "message/StaticText.h"
 #include "msglib/ChoiceFormat.h"
 #include "msglib/MessageFormat.h"
+#include "msglib/SimpleDateFormat.h"
 #include "number/LocaleNumberFormat.h"
 
 #include <iterator>
@@ -14,23 +16,9 @@ namespace zem::msglib {
 
 namespace {
 
-// Tells whether a pattern compiles and has no placeholder but those of plain digits. Such a message
-// needs no compiled form: it is rendered as it is read.
-bool isPlain(std::string_view pattern) noexcept {
-    std::size_t position = 0;
-    for (;;) {
-        position = scanStatic(pattern, position, [](std::string_view) {});
-        if (position == pattern.size()) {
-            return true;
-        }
-        int index = 0;
-        const std::size_t digits = readDigits(pattern, position + 1, index);
-        if (pattern[position] != '{' || digits == 0 ||
-            !holdsAt(pattern, position + 1 + digits, '}')) {
-            return false;
-        }
-        position += digits + 2;
-    }
+// All formatters of elements are made here, so their type has one identity and no name to compare.
+bool isChoice(const Format& format) noexcept {
+    return &typeid(format) == &typeid(ChoiceFormat);
 }
 
 } // namespace
@@ -58,11 +46,37 @@ void MessageRenderer::renderPlain(std::string_view pattern) {
     const auto append = [this](std::string_view piece) { out_ += piece; };
     std::size_t position = scanStatic(pattern, 0, append);
     while (position < pattern.size()) {
-        int index = 0;
-        const std::size_t digits = readDigits(pattern, position + 1, index);
-        renderByKind(argumentAt(index));
-        position = scanStatic(pattern, position + digits + 2, append);
+        PlainPlaceholder placeholder;
+        position = readPlainPlaceholder(pattern, position, placeholder);
+        renderByStyle(placeholder.style, argumentAt(placeholder.index));
+        position = scanStatic(pattern, position, append);
     }
+}
+
+void MessageRenderer::renderByStyle(PlaceholderStyle style, const boost::any& argument) {
+    switch (style) {
+    case PlaceholderStyle::Number: appendNumber(NumberFormat::Number, argument); return;
+    case PlaceholderStyle::Integer:
+        LocaleNumberFormat::appendRounded(argument, locale_, out_);
+        return;
+    case PlaceholderStyle::Currency: appendNumber(NumberFormat::Currency, argument); return;
+    case PlaceholderStyle::Percent: appendNumber(NumberFormat::Percent, argument); return;
+    case PlaceholderStyle::ShortDate: appendDate(DateFormat::Short, argument); return;
+    case PlaceholderStyle::MediumDate: appendDate(DateFormat::Medium, argument); return;
+    case PlaceholderStyle::LongDate: appendDate(DateFormat::Long, argument); return;
+    case PlaceholderStyle::Time:
+        SimpleDateFormat::render(LocaleDatePattern::time().text(), argument, out_);
+        return;
+    default: renderByKind(argument);
+    }
+}
+
+void MessageRenderer::appendNumber(NumberFormat::FormatType type, const boost::any& argument) {
+    LocaleNumberFormat::append(argument, locale_, type, out_);
+}
+
+void MessageRenderer::appendDate(DateFormat::Style style, const boost::any& argument) {
+    SimpleDateFormat::render(LocaleDatePattern(style).text(), argument, out_);
 }
 
 void MessageRenderer::renderPending() {
@@ -78,7 +92,7 @@ void MessageRenderer::renderElement(const FormatElement& element) {
     const Format* format = element.format_.get();
     if (format == nullptr) {
         renderByKind(argument);
-    } else if (typeid(*format) == typeid(ChoiceFormat)) {
+    } else if (isChoice(*format)) {
         expandChoice(element, argument);
         return;
     } else {
@@ -91,12 +105,10 @@ void MessageRenderer::renderByKind(const boost::any& argument) {
     switch (kindOf(argument)) {
     case ArgumentKind::Text: out_ += heldValue<std::string>(argument); break;
     case ArgumentKind::Float:
-    case ArgumentKind::Double:
-        LocaleNumberFormat::append(argument, locale_, NumberFormat::Number, out_);
-        break;
+    case ArgumentKind::Double: appendNumber(NumberFormat::Number, argument); break;
     case ArgumentKind::Angle:
     case ArgumentKind::Other: break;
-    default: LocaleNumberFormat::append(argument, locale_, NumberFormat::Integer, out_);
+    default: appendNumber(NumberFormat::Integer, argument);
     }
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "message/FormatElement.h"
+#include "message/PlaceholderStyle.h"
+#include "msglib/DateFormat.h"
+#include "msglib/NumberFormat.h"
 
 #include <boost/any.hpp>
 
@@ -34,7 +37,10 @@ private:
     void renderPlain(std::string_view pattern);
     void renderPending();
     void renderElement(const FormatElement& element);
+    void renderByStyle(PlaceholderStyle style, const boost::any& argument);
     void renderByKind(const boost::any& argument);
+    void appendNumber(NumberFormat::FormatType type, const boost::any& argument);
+    void appendDate(DateFormat::Style style, const boost::any& argument);
     void expandChoice(const FormatElement& element, const boost::any& argument);
     const boost::any& argumentAt(int index);
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
+#include <iterator>
 #include <memory>
 
 namespace zem::msglib {
@@ -177,6 +177,10 @@ std::size_t roomBehind(std::size_t digits, const DigitLayout& layout) {
 } // namespace
 
 double roundingOf(int maximumFractionDigits) noexcept {
+    constexpr double usual[] = {1e-1 * 5.0, 1e-2 * 5.0, 1e-3 * 5.0, 1e-4 * 5.0, 1e-5 * 5.0};
+    if (maximumFractionDigits >= 0 && maximumFractionDigits < static_cast<int>(std::size(usual))) {
+        return usual[maximumFractionDigits];
+    }
     return powerOfTen(-static_cast<double>(maximumFractionDigits) - 1.0) * 5.0;
 }
 

@@ -1,40 +1,10 @@
 #include "number/LocaleNumberFormat.h"
 
-#include "base/LocaleValue.h"
-#include "number/DigitWriter.h"
 #include "number/LocaleNumberPattern.h"
 #include "number/NumberArgument.h"
-
-#include <limits>
+#include "number/PlainLocaleNumber.h"
 
 namespace zem::msglib {
-
-namespace {
-
-// Appends a number that isn't negative as a formatter by the locale's pattern would; false, with
-// nothing appended, where the locale's values don't tell all of it.
-bool appendPlain(double magnitude, NumberFormat::FormatType type, std::string& out) {
-    const LocaleNumberValue zero(platform::LOCALE_SNATIVEDIGITS);
-    const LocaleNumberValue grouping(platform::LOCALE_STHOUSAND);
-    const LocaleNumberValue decimal(platform::LOCALE_SDECIMAL);
-    const bool isFinite = magnitude <= std::numeric_limits<double>::max();
-    if (!isFinite || !zero.found() || !grouping.found() || !decimal.found() ||
-        !LocaleNumberPattern::isAvailable()) {
-        return false;
-    }
-    const LocaleNumberPattern pattern = type == NumberFormat::Integer
-                                            ? LocaleNumberPattern::integer()
-                                            : LocaleNumberPattern::number();
-    constexpr std::size_t mostIntegerDigits = 309;
-    const DigitLayout layout{mostIntegerDigits,      pattern.leadingZero ? 1U : 0U,
-                             pattern.fractionDigits, pattern.fractionDigits,
-                             pattern.groupSize,      grouping.text(),
-                             decimal.text(),         zero.first()};
-    appendDigits(magnitude + roundingOf(static_cast<int>(pattern.fractionDigits)), layout, out);
-    return true;
-}
-
-} // namespace
 
 const char* LocaleNumberFormat::fallbackOf(NumberFormat::FormatType type) noexcept {
     switch (type) {
@@ -55,11 +25,25 @@ std::shared_ptr<DecimalFormat> LocaleNumberFormat::makeShared(const std::locale&
                                            DecimalFormatSymbols(locale));
 }
 
+std::shared_ptr<DecimalFormat> LocaleNumberFormat::makeSharedRounded(const std::locale& locale) {
+    auto number = makeShared(locale, NumberFormat::Number);
+    number->setMaximumFractionDigits(0);
+    return number;
+}
+
 void LocaleNumberFormat::append(const boost::any& argument, const std::locale& locale,
                                 NumberFormat::FormatType type, std::string& out) {
     const double value = readNumber(argument);
-    if (!(value >= 0.0) || !appendPlain(value, type, out)) {
+    if (!appendPlainLocaleNumber(value, type, out)) {
         make(locale, type, fallbackOf(type)).format(value, out);
+    }
+}
+
+void LocaleNumberFormat::appendRounded(const boost::any& argument, const std::locale& locale,
+                                       std::string& out) {
+    const double value = readNumber(argument);
+    if (!appendPlainLocaleNumber(value, NumberFormat::Integer, out)) {
+        makeSharedRounded(locale)->format(value, out);
     }
 }
 
@@ -74,38 +58,47 @@ std::string LocaleNumberFormat::patternOf(const std::locale& locale, NumberForma
     return {};
 }
 
-std::string NumberFormat::getNumberFormat(const std::locale&, const char* fallback) {
+namespace {
+
+void addCurrencySign(std::string& digits) {
+    switch (localeCurrencyPlace()) {
+    case CurrencyPlace::Front: digits.insert(0, "\xA4"); break;
+    case CurrencyPlace::Back: digits.append("\xA4"); break;
+    case CurrencyPlace::FrontAndBlank: digits.insert(0, "\xA4 "); break;
+    case CurrencyPlace::BackAndBlank: digits.append(" \xA4"); break;
+    case CurrencyPlace::Nowhere: break;
+    }
+}
+
+std::string localePattern(NumberFormat::FormatType type, const char* fallback) {
     if (!LocaleNumberPattern::isAvailable()) {
         return fallback;
     }
-    const auto pattern = LocaleNumberPattern::number();
-    return pattern.digits().append(pattern.negative);
+    std::string text = LocaleNumberPattern::of(type).text();
+    if (type == NumberFormat::Percent) {
+        text.push_back('%');
+    } else if (type == NumberFormat::Currency) {
+        addCurrencySign(text);
+    }
+    return text.append(localeNegativePattern(type));
+}
+
+} // namespace
+
+std::string NumberFormat::getNumberFormat(const std::locale&, const char* fallback) {
+    return localePattern(Number, fallback);
 }
 
 std::string NumberFormat::getIntegerFormat(const std::locale&, const char* fallback) {
-    if (!LocaleNumberPattern::isAvailable()) {
-        return fallback;
-    }
-    const auto pattern = LocaleNumberPattern::integer();
-    return pattern.digits().append(pattern.negative);
-}
-
-std::string NumberFormat::getPercentFormat(const std::locale&, const char* fallback) {
-    if (!LocaleNumberPattern::isAvailable()) {
-        return fallback;
-    }
-    const auto pattern = LocaleNumberPattern::percent();
-    return pattern.digits().append(1, '%').append(pattern.negative);
+    return localePattern(Integer, fallback);
 }
 
 std::string NumberFormat::getCurrencyFormat(const std::locale&, const char* fallback) {
-    if (!LocaleNumberPattern::isAvailable()) {
-        return fallback;
-    }
-    const auto pattern = LocaleNumberPattern::currency();
-    std::string text = pattern.digits();
-    addCurrencySign(text);
-    return text.append(pattern.negative);
+    return localePattern(Currency, fallback);
+}
+
+std::string NumberFormat::getPercentFormat(const std::locale&, const char* fallback) {
+    return localePattern(Percent, fallback);
 }
 
 } // namespace zem::msglib

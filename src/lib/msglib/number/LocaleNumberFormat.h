@@ -25,12 +25,19 @@ public:
     static std::shared_ptr<DecimalFormat> makeShared(const std::locale& locale,
                                                      NumberFormat::FormatType type);
 
+    /// Returns the formatter for plain numbers, rounded to whole ones.
+    static std::shared_ptr<DecimalFormat> makeSharedRounded(const std::locale& locale);
+
     /// Appends `argument` as a new formatter of the public factory of `type` would, but makes one
     /// only where it has to.
     ///
-    /// @param type  `Number` or `Integer`
+    /// @throws what `NumberFormat::format` throws for the argument
     static void append(const boost::any& argument, const std::locale& locale,
                        NumberFormat::FormatType type, std::string& out);
+
+    /// The same as the formatter of `makeSharedRounded`.
+    static void appendRounded(const boost::any& argument, const std::locale& locale,
+                              std::string& out);
 
     /// Returns the pattern of the public factory of `type` for a platform that doesn't know the
     /// locale.

@@ -59,28 +59,19 @@ bool LocaleNumberPattern::isAvailable() noexcept {
     return platform::IsValidLocale(locale, platform::LCID_INSTALLED);
 }
 
-LocaleNumberPattern LocaleNumberPattern::number() noexcept {
-    return {digitsIn(platform::LOCALE_SGROUPING), hasLeadingZero(),
-            digitsIn(platform::LOCALE_IDIGITS), negativeForm(negativeNumbers)};
+LocaleNumberPattern LocaleNumberPattern::of(NumberFormat::FormatType type) noexcept {
+    switch (type) {
+    case NumberFormat::Currency:
+        return {digitsIn(platform::LOCALE_SMONGROUPING), hasLeadingZero(),
+                digitsIn(platform::LOCALE_ICURRDIGITS)};
+    case NumberFormat::Integer: return {digitsIn(platform::LOCALE_SGROUPING), hasLeadingZero(), 0};
+    default:
+        return {digitsIn(platform::LOCALE_SGROUPING), hasLeadingZero(),
+                digitsIn(platform::LOCALE_IDIGITS)};
+    }
 }
 
-LocaleNumberPattern LocaleNumberPattern::integer() noexcept {
-    return {digitsIn(platform::LOCALE_SGROUPING), hasLeadingZero(), 0,
-            negativeForm(negativeNumbers)};
-}
-
-LocaleNumberPattern LocaleNumberPattern::percent() noexcept {
-    return {digitsIn(platform::LOCALE_SGROUPING), hasLeadingZero(),
-            digitsIn(platform::LOCALE_IDIGITS), negativeForm(negativePercents)};
-}
-
-LocaleNumberPattern LocaleNumberPattern::currency() noexcept {
-    return {digitsIn(platform::LOCALE_SMONGROUPING), hasLeadingZero(),
-            digitsIn(platform::LOCALE_ICURRDIGITS),
-            formAt(negativeCurrencies, countIn(LocaleNumberValue(platform::LOCALE_INEGCURR)))};
-}
-
-std::string LocaleNumberPattern::digits() const {
+std::string LocaleNumberPattern::text() const {
     std::string text;
     if (groupSize > 0) {
         text.append("#,", 2).append(groupSize, '#');
@@ -96,13 +87,22 @@ std::string LocaleNumberPattern::digits() const {
     return text;
 }
 
-void addCurrencySign(std::string& digits) {
+std::string_view localeNegativePattern(NumberFormat::FormatType type) noexcept {
+    switch (type) {
+    case NumberFormat::Currency:
+        return formAt(negativeCurrencies, countIn(LocaleNumberValue(platform::LOCALE_INEGCURR)));
+    case NumberFormat::Percent: return negativeForm(negativePercents);
+    default: return negativeForm(negativeNumbers);
+    }
+}
+
+CurrencyPlace localeCurrencyPlace() noexcept {
     switch (LocaleNumberValue(platform::LOCALE_ICURRENCY).first()) {
-    case '0': digits.insert(0, "\xA4"); break;
-    case '1': digits.append("\xA4"); break;
-    case '2': digits.insert(0, "\xA4 "); break;
-    case '3': digits.append(" \xA4"); break;
-    default: break;
+    case '0': return CurrencyPlace::Front;
+    case '1': return CurrencyPlace::Back;
+    case '2': return CurrencyPlace::FrontAndBlank;
+    case '3': return CurrencyPlace::BackAndBlank;
+    default: return CurrencyPlace::Nowhere;
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "msglib/NumberFormat.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,28 +13,24 @@ struct LocaleNumberPattern {
     unsigned int groupSize;      ///< 0: no groups
     bool leadingZero;            ///< one integer digit is always written
     unsigned int fractionDigits; ///< always written
-    std::string_view negative;   ///< the negative subpattern with its separator, or empty
 
     /// Tells whether the platform knows the locale; without it there are no values to ask for.
     static bool isAvailable() noexcept;
 
-    /// Returns the parts for plain numbers.
-    static LocaleNumberPattern number() noexcept;
+    /// Returns the parts for numbers of `type`.
+    static LocaleNumberPattern of(NumberFormat::FormatType type) noexcept;
 
-    /// Returns the parts for whole numbers.
-    static LocaleNumberPattern integer() noexcept;
-
-    /// Returns the parts for percentages.
-    static LocaleNumberPattern percent() noexcept;
-
-    /// Returns the parts for amounts, whose place of the currency sign is asked for apart.
-    static LocaleNumberPattern currency() noexcept;
-
-    /// Returns integer and fraction part as a pattern text: "#,##0.00".
-    std::string digits() const;
+    /// Returns the pattern of the digits: "#,##0.00".
+    std::string text() const;
 };
 
-/// Puts the currency sign where the locale has it.
-void addCurrencySign(std::string& digits);
+/// Returns the negative subpattern for numbers of `type`, with its separator; it may be empty.
+std::string_view localeNegativePattern(NumberFormat::FormatType type) noexcept;
+
+/// Where the locale puts the currency sign of amounts that aren't negative.
+enum class CurrencyPlace : std::uint8_t { Nowhere, Front, Back, FrontAndBlank, BackAndBlank };
+
+/// Returns the locale's place of the currency sign.
+CurrencyPlace localeCurrencyPlace() noexcept;
 
 } // namespace zem::msglib

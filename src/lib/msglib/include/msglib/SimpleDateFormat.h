@@ -4,6 +4,7 @@
 
 #include <locale>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
 
@@ -50,6 +51,10 @@ public:
     std::string& format(const boost::any& value, std::string& out) const override;
 
 private:
+    friend class MessageRenderer;
+
+    static void render(std::string_view pattern, const boost::any& value, std::string& out);
+
     static const std::string datePatternChars_;
     static const std::string timePatternChars_;
 

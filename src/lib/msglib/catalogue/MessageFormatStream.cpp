@@ -1,6 +1,7 @@
 #include "msglib/MessageFormatStream.h"
 
 #include "base/Argument.h"
+#include "message/MessageRenderer.h"
 #include "msglib/MessageLibrary.h"
 
 #include <boost/any.hpp>
@@ -17,9 +18,16 @@ struct MessageFormatStream::Impl {
     std::string text_;
 
     std::string rendered() const {
-        const MessageLibrary& library = MessageLibrary::instance();
-        return pattern_ != nullptr ? library.formatMessage(std::string(pattern_), args_)
-                                   : library.formatMessage(messageId_, args_);
+        return pattern_ != nullptr ? renderPattern(pattern_, args_)
+                                   : MessageLibrary::instance().formatMessage(messageId_, args_);
+    }
+
+    void addRendered() {
+        if (text_.empty()) {
+            text_ = rendered();
+        } else {
+            text_ += rendered();
+        }
     }
 
     void add(boost::any&& argument) { args_.push_back(std::move(argument)); }
@@ -51,17 +59,18 @@ unsigned int MessageFormatStream::messageId() const {
 }
 
 std::string MessageFormatStream::toString() const {
-    return impl_->text_ += impl_->rendered();
+    impl_->addRendered();
+    return impl_->text_;
 }
 
 MessageFormatStream& MessageFormatStream::append(const MessageFormatStream& other) {
     if (this == &other) {
-        toString();
+        impl_->addRendered();
         return *this;
     }
     // Whatever fails comes before the first change.
     std::list<boost::any> args(other.impl_->args_);
-    impl_->text_ += impl_->rendered();
+    impl_->addRendered();
     impl_->messageId_ = other.impl_->messageId_;
     impl_->pattern_ = other.impl_->pattern_;
     impl_->args_ = std::move(args);

@@ -84,12 +84,7 @@ void MessageLibrary::registerFacility(unsigned int facility, const void* address
 
 std::string MessageLibrary::formatMessage(const std::string& pattern,
                                           const std::list<boost::any>& args) const {
-    constexpr std::size_t usualArgument = 16;
-    std::string text;
-    text.reserve(pattern.size() + args.size() * usualArgument);
-    const std::locale locale;
-    MessageRenderer(args, locale, text).render(pattern);
-    return text;
+    return renderPattern(pattern, args);
 }
 
 std::string MessageLibrary::formatMessage(unsigned int messageId,
@@ -101,7 +96,7 @@ std::string MessageLibrary::formatMessage(unsigned int messageId,
     try {
         std::string pattern = toUtf8(fetchText(facility->second, messageId));
         boost::algorithm::replace_all(pattern, "\r\n", "\n");
-        return formatMessage(pattern, args);
+        return renderPattern(pattern, args);
     } catch (const std::runtime_error& failure) {
         return failure.what();
     }

@@ -2,8 +2,6 @@
 
 #include "base/Argument.h"
 #include "date/LocaleDatePattern.h"
-#include "message/PlainPattern.h"
-#include "message/StaticText.h"
 #include "msglib/ChoiceFormat.h"
 #include "msglib/MessageFormat.h"
 #include "msglib/SimpleDateFormat.h"
@@ -31,26 +29,26 @@ void MessageRenderer::render(const MessageFormat& message) {
     }
 }
 
-void MessageRenderer::render(const std::string& pattern) {
-    if (isPlain(pattern)) {
-        renderPlain(pattern);
+void MessageRenderer::render(std::string_view pattern) {
+    PlainPattern plain;
+    if (plain.read(pattern)) {
+        renderPlain(plain);
         return;
     }
     MessageFormat message;
     message.locale_ = locale_;
-    message.compile(pattern);
+    message.compile(std::string(pattern));
     render(message);
 }
 
-void MessageRenderer::renderPlain(std::string_view pattern) {
-    const auto append = [this](std::string_view piece) { out_ += piece; };
-    std::size_t position = scanStatic(pattern, 0, append);
-    while (position < pattern.size()) {
-        PlainPlaceholder placeholder;
-        position = readPlainPlaceholder(pattern, position, placeholder);
-        renderByStyle(placeholder.style, argumentAt(placeholder.index));
-        position = scanStatic(pattern, position, append);
-    }
+void MessageRenderer::renderPlain(const PlainPattern& pattern) {
+    pattern.forEach([this](const PlainPiece& piece) {
+        if (piece.index == PlainPiece::noIndex) {
+            out_ += piece.text;
+        } else {
+            renderByStyle(piece.style, argumentAt(piece.index));
+        }
+    });
 }
 
 void MessageRenderer::renderByStyle(PlaceholderStyle style, const boost::any& argument) {
@@ -117,8 +115,9 @@ void MessageRenderer::renderByKind(const boost::any& argument) {
 void MessageRenderer::expandChoice(const FormatElement& element, const boost::any& argument) {
     std::string text;
     element.format_->format(argument, text);
-    if (isPlain(text)) {
-        renderPlain(text);
+    PlainPattern plain;
+    if (plain.read(text)) {
+        renderPlain(plain);
         out_ += element.suffix_;
         return;
     }
@@ -146,6 +145,15 @@ const boost::any& MessageRenderer::argumentAt(int index) {
     std::advance(argument_, wanted - position_);
     position_ = wanted;
     return *argument_;
+}
+
+std::string renderPattern(std::string_view pattern, const std::list<boost::any>& args) {
+    constexpr std::size_t usualArgument = 16;
+    std::string text;
+    text.reserve(pattern.size() + args.size() * usualArgument);
+    const std::locale locale;
+    MessageRenderer(args, locale, text).render(pattern);
+    return text;
 }
 
 } // namespace zem::msglib

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "message/FormatElement.h"
-#include "message/PlaceholderStyle.h"
+#include "message/PlainPattern.h"
 #include "msglib/DateFormat.h"
 #include "msglib/NumberFormat.h"
 
@@ -31,10 +31,10 @@ public:
     void render(const MessageFormat& message);
 
     /// Appends the message of `pattern`, compiled for this rendering only.
-    void render(const std::string& pattern);
+    void render(std::string_view pattern);
 
 private:
-    void renderPlain(std::string_view pattern);
+    void renderPlain(const PlainPattern& pattern);
     void renderPending();
     void renderElement(const FormatElement& element);
     void renderByStyle(PlaceholderStyle style, const boost::any& argument);
@@ -54,5 +54,8 @@ private:
     // stack.
     std::list<FormatElement> pending_;
 };
+
+/// Returns the text of `pattern` with `args`, as a new `MessageFormat` would write it.
+std::string renderPattern(std::string_view pattern, const std::list<boost::any>& args);
 
 } // namespace zem::msglib

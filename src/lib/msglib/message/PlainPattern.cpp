@@ -1,7 +1,6 @@
 #include "message/PlainPattern.h"
 
 #include "base/Extraction.h"
-#include "message/StaticText.h"
 
 namespace zem::msglib {
 
@@ -14,10 +13,15 @@ std::string_view readSegment(std::string_view pattern, std::size_t& position) no
     return pattern.substr(begin, position - begin);
 }
 
+bool needsNothingCompiled(PlaceholderStyle style) noexcept {
+    return style != PlaceholderStyle::CustomNumber && style != PlaceholderStyle::CustomDate &&
+           style != PlaceholderStyle::Choice;
+}
+
 } // namespace
 
 std::size_t readPlainPlaceholder(std::string_view pattern, std::size_t position,
-                                 PlainPlaceholder& placeholder) noexcept {
+                                 PlainPiece& placeholder) noexcept {
     if (!holdsAt(pattern, position, '{')) {
         return std::string_view::npos;
     }
@@ -41,27 +45,19 @@ std::size_t readPlainPlaceholder(std::string_view pattern, std::size_t position,
         return std::string_view::npos;
     }
     placeholder.style = placeholderStyle(type, style);
-    switch (placeholder.style) {
-    case PlaceholderStyle::CustomNumber:
-    case PlaceholderStyle::CustomDate:
-    case PlaceholderStyle::Choice: return std::string_view::npos;
-    default: return position + 1;
-    }
+    return needsNothingCompiled(placeholder.style) ? position + 1 : std::string_view::npos;
 }
 
-bool isPlain(std::string_view pattern) noexcept {
-    std::size_t position = 0;
-    for (;;) {
-        position = scanStatic(pattern, position, [](std::string_view) {});
-        if (position == pattern.size()) {
-            return true;
-        }
-        PlainPlaceholder placeholder;
-        position = readPlainPlaceholder(pattern, position, placeholder);
-        if (position == std::string_view::npos) {
-            return false;
-        }
+bool PlainPattern::read(std::string_view pattern) {
+    pattern_ = pattern;
+    while (rest_ < pattern.size() && pieces_.size() + 2 <= usualPieces) {
+        rest_ = readPieces(rest_, [this](const PlainPiece& piece) { pieces_.push_back(piece); });
     }
+    std::size_t position = rest_;
+    while (position < pattern.size()) {
+        position = readPieces(position, [](const PlainPiece&) {});
+    }
+    return position == pattern.size();
 }
 
 } // namespace zem::msglib

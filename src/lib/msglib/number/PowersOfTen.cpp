@@ -20,7 +20,12 @@ double powerOfTen(double exponent) noexcept {
     if (exponent >= least && exponent < least + static_cast<int>(std::size(table))) {
         return table[static_cast<int>(exponent) - least];
     }
+#if defined(__MINGW32__)
+    // Its pow for double is off by many bits: 28 units in the last place at 1e-30, 282 at 1e-292.
+    return static_cast<double>(std::pow(10.0L, static_cast<long double>(exponent)));
+#else
     return std::pow(10.0, exponent);
+#endif
 }
 
 } // namespace zem::msglib

@@ -1,6 +1,7 @@
 #include "base/Extraction.h"
 
 #include <sstream>
+#include <string>
 
 namespace zem::msglib {
 
@@ -20,27 +21,27 @@ std::size_t readDigits(std::string_view text, std::size_t position, int& value) 
     return count;
 }
 
-bool extractInt(const std::string& text, int& value) {
+bool extractInt(std::string_view text, int& value) {
     if (const std::size_t digits = readDigits(text, 0, value);
         digits > 0 && digits == text.size()) {
         return true;
     }
     int extracted = 0;
-    if (!(std::istringstream(text) >> extracted)) {
+    if (!(std::istringstream(std::string(text)) >> extracted)) {
         return false;
     }
     value = extracted;
     return true;
 }
 
-double extractDouble(const std::string& text) {
+double extractDouble(std::string_view text) {
     int whole = 0;
     if (const std::size_t digits = readDigits(text, 0, whole);
         digits > 0 && digits == text.size()) {
         return whole;
     }
     double value = 0.0;
-    std::istringstream(text) >> value;
+    std::istringstream(std::string(text)) >> value;
     return value;
 }
 

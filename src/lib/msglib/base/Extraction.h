@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
 namespace zem::msglib {
@@ -18,10 +17,10 @@ std::size_t readDigits(std::string_view text, std::size_t position, int& value) 
 /// Plain digits take a short way to the same value.
 ///
 /// @return whether there is a number in the range of `int`; `value` is unchanged if not
-bool extractInt(const std::string& text, int& value);
+bool extractInt(std::string_view text, int& value);
 
 /// The same for a `double`; what extraction leaves in a variable that was 0.0, if there is no
 /// number.
-double extractDouble(const std::string& text);
+double extractDouble(std::string_view text);
 
 } // namespace zem::msglib

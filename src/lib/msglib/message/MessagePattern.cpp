@@ -36,17 +36,17 @@ std::size_t MessageFormat::parsePatternElement(const std::string& pattern, std::
                                                std::string& text, char endByte) const {
     text.clear();
     std::size_t depth = 1;
-    while (position < pattern.size()) {
-        const std::size_t syntax = findSyntax(pattern, position, endByte);
-        text.append(pattern, position, syntax - position);
-        position = syntax;
-        if (position == pattern.size()) {
-            break;
-        }
+    std::size_t copied = position; // what stands in front of it needs no more care
+    while ((position = findSyntax(pattern, position, endByte)) < pattern.size()) {
         const char c = pattern[position];
         if (c == quote && holdsAt(pattern, position + 2, quote)) {
-            text.append(pattern, position, 3);
             position += 3;
+            continue;
+        }
+        if (c == quote && holdsAt(pattern, position + 1, quote)) {
+            text.append(pattern, copied, position + 1 - copied);
+            position += 2;
+            copied = position;
             continue;
         }
         if (c == '{') {
@@ -57,9 +57,9 @@ std::size_t MessageFormat::parsePatternElement(const std::string& pattern, std::
         if (depth == 0 || (c == endByte && c != '}')) {
             break;
         }
-        text.push_back(c);
-        position += c == quote && holdsAt(pattern, position + 1, quote) ? 2 : 1;
+        ++position;
     }
+    text.append(pattern, copied, position - copied);
     return position;
 }
 

@@ -138,11 +138,12 @@ const boost::any& MessageRenderer::argumentAt(int index) {
         raise(Failure::ArgumentIndexTooHigh);
     }
     const auto wanted = static_cast<std::size_t>(index);
-    if (wanted < position_) {
+    if (wanted < position_ / 2) {
         argument_ = args_.begin();
         position_ = 0;
     }
-    std::advance(argument_, wanted - position_);
+    const auto steps = static_cast<std::ptrdiff_t>(wanted) - static_cast<std::ptrdiff_t>(position_);
+    std::advance(argument_, steps);
     position_ = wanted;
     return *argument_;
 }

@@ -13,21 +13,34 @@ namespace zem::msglib {
 
 namespace {
 
+constexpr bool isSeparator(char c) noexcept {
+    return c == '#' || c == '<' || c == '+';
+}
+
+std::size_t findSeparator(const std::string& pattern, std::size_t pos) noexcept {
+    while (pos < pattern.size() && !isSeparator(pattern[pos])) {
+        ++pos;
+    }
+    return pos;
+}
+
 // Collects a result text from `pos` and returns the position of the terminator, or the pattern's
 // end.
 std::size_t parseText(const std::string& pattern, std::size_t pos, std::string& text) {
     std::size_t depth = 1;
-    while (pos < pattern.size()) {
-        const std::size_t syntax = findSyntax(pattern, pos, '|');
-        text.append(pattern, pos, syntax - pos);
-        pos = syntax;
-        if (pos == pattern.size()) {
-            break;
-        }
+    std::size_t copied = pos; // what stands in front of it needs no more care
+    while ((pos = findSyntax(pattern, pos, '|')) < pattern.size()) {
         const char c = pattern[pos];
-        if (c == quote && !holdsAt(pattern, pos + 1, quote) && pattern.size() - pos > 2) {
-            text.push_back(pattern[pos + 1]);
+        if (c == quote && holdsAt(pattern, pos + 1, quote)) {
+            text.append(pattern, copied, pos + 1 - copied);
+            pos += 2;
+            copied = pos;
+            continue;
+        }
+        if (c == quote && pattern.size() - pos > 2) {
+            text.append(pattern, copied, pos - copied).push_back(pattern[pos + 1]);
             pos += 3;
+            copied = pos;
             continue;
         }
         if (c == '{') {
@@ -38,9 +51,9 @@ std::size_t parseText(const std::string& pattern, std::size_t pos, std::string& 
         if (depth == 0 || (c == '|' && depth == 1)) {
             break;
         }
-        text.push_back(c);
-        pos += c == quote && holdsAt(pattern, pos + 1, quote) ? 2 : 1;
+        ++pos;
     }
+    text.append(pattern, copied, pos - copied);
     return pos;
 }
 
@@ -56,11 +69,12 @@ void ChoiceFormat::applyPattern(const std::string& pattern) {
     choices_.clear();
     std::size_t pos = 0;
     for (;;) {
-        const std::size_t separator = pattern.find_first_of("#+<", pos);
-        if (separator == std::string::npos) {
+        const std::size_t separator = findSeparator(pattern, pos);
+        if (separator == pattern.size()) {
             raise(Failure::ChoiceSyntax);
         }
-        ChoiceEntry entry{extractDouble(pattern.substr(pos, separator - pos)), {}};
+        const std::string_view limit = std::string_view(pattern).substr(pos, separator - pos);
+        ChoiceEntry entry{extractDouble(limit), {}};
         if (pattern[separator] != '#') {
             entry.limit = nextDouble(entry.limit);
         }

@@ -55,9 +55,9 @@ const std::vector<Block> sampleBlocks = {{1, {u"one\r\n", u"two", u"", u"four"}}
                                          {0xC0050001, {u"x"}}};
 
 std::u16string toString(const std::optional<MessageText>& text) {
-    std::u16string result;
-    for (std::size_t index = 0; text && index < text->length(); ++index) {
-        result += (*text)[index];
+    std::u16string result(text ? text->length() : 0, u'\0');
+    if (text) {
+        text->copyTo(result.data());
     }
     return result;
 }

@@ -172,8 +172,10 @@ TEST_F(MsgtableTest, SplitsBlocks) {
     for (std::uint32_t code = 1; code <= 100; ++code) {
         const auto text = TableReader(bytes).find(0xC7FF0000 | code);
         ASSERT_TRUE(text) << code;
-        EXPECT_EQ(text->length(), 3 + std::to_string(code).size());
-        EXPECT_EQ((*text)[0], u'G');
+        std::u16string units(text->length(), u'\0');
+        text->copyTo(units.data());
+        EXPECT_EQ(units.front(), u'G');
+        EXPECT_EQ(units.size(), 3 + std::to_string(code).size());
     }
     EXPECT_FALSE(TableReader(bytes).find(0xC7FF0000));
     EXPECT_FALSE(TableReader(bytes).find(0xC7FF0065));

@@ -34,10 +34,6 @@ public:
         return offset <= size_ ? Bytes(data_ + offset, size_ - offset) : Bytes();
     }
 
-    std::uint8_t u8(std::size_t offset) const noexcept {
-        return holds(offset, 1) ? data_[offset] : std::uint8_t{0};
-    }
-
     std::uint16_t u16(std::size_t offset) const noexcept {
         if (!holds(offset, 2)) {
             return 0;
@@ -49,8 +45,9 @@ public:
         if (!holds(offset, 4)) {
             return 0;
         }
-        return static_cast<std::uint32_t>(u16(offset)) | static_cast<std::uint32_t>(u16(offset + 2))
-                                                             << 16;
+        const unsigned char* at = data_ + offset;
+        return at[0] | std::uint32_t{at[1]} << 8 | std::uint32_t{at[2]} << 16 |
+               std::uint32_t{at[3]} << 24;
     }
 
 private:

@@ -25,9 +25,7 @@ char16_t* copyOf(const MessageText& text) noexcept {
     const std::size_t length = text.length();
     auto* copy = static_cast<char16_t*>(std::malloc((length + 1) * sizeof(char16_t)));
     if (copy != nullptr) {
-        for (std::size_t index = 0; index < length; ++index) {
-            copy[index] = text[index];
-        }
+        text.copyTo(copy);
         copy[length] = 0;
     }
     return copy;

@@ -18,8 +18,14 @@ MessageText::MessageText(Bytes bytes, std::size_t unitBytes) noexcept
     : bytes_(bytes),
       unitBytes_(unitBytes) {
     const std::size_t limit = bytes.size() / unitBytes;
-    while (length_ < limit && (*this)[length_] != 0) {
+    while (length_ < limit && unitAt(length_) != 0) {
         ++length_;
+    }
+}
+
+void MessageText::copyTo(char16_t* units) const noexcept {
+    for (std::size_t index = 0; index < length_; ++index) {
+        units[index] = unitAt(index);
     }
 }
 

@@ -19,12 +19,15 @@ public:
 
     std::size_t length() const noexcept { return length_; }
 
-    char16_t operator[](std::size_t index) const noexcept {
-        return unitBytes_ == 2 ? static_cast<char16_t>(bytes_.u16(index * 2))
-                               : static_cast<char16_t>(bytes_.u8(index));
-    }
+    /// Writes all units to `units`, without a terminator.
+    void copyTo(char16_t* units) const noexcept;
 
 private:
+    char16_t unitAt(std::size_t index) const noexcept {
+        const unsigned char* at = bytes_.data() + index * unitBytes_;
+        return static_cast<char16_t>(unitBytes_ == 2 ? at[0] | at[1] << 8 : at[0]);
+    }
+
     Bytes bytes_;
     std::size_t unitBytes_;
     std::size_t length_ = 0;

@@ -66,6 +66,14 @@ int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t, const char16_t* t
     const auto room = static_cast<std::size_t>(measuring ? INT_MAX : size);
     std::size_t written = 0;
     for (const char16_t* end = text + count; text != end;) {
+        if (*text < 0x80 && written < room) {
+            if (!measuring) {
+                output[written] = static_cast<char>(*text);
+            }
+            ++written;
+            ++text;
+            continue;
+        }
         const Sequence sequence = encode(nextCodePoint(text, end));
         if (sequence.size > room - written) {
             setLastError(ERROR_INSUFFICIENT_BUFFER);

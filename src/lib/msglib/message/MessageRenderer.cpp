@@ -30,8 +30,7 @@ void MessageRenderer::render(const MessageFormat& message) {
 }
 
 void MessageRenderer::render(std::string_view pattern) {
-    PlainPattern plain;
-    if (plain.read(pattern)) {
+    if (const PlainPattern plain(pattern); plain.isPlain()) {
         renderPlain(plain);
         return;
     }
@@ -115,8 +114,7 @@ void MessageRenderer::renderByKind(const boost::any& argument) {
 void MessageRenderer::expandChoice(const FormatElement& element, const boost::any& argument) {
     std::string text;
     element.format_->format(argument, text);
-    PlainPattern plain;
-    if (plain.read(text)) {
+    if (const PlainPattern plain(text); plain.isPlain()) {
         renderPlain(plain);
         out_ += element.suffix_;
         return;

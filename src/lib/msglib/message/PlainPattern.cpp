@@ -48,8 +48,7 @@ std::size_t readPlainPlaceholder(std::string_view pattern, std::size_t position,
     return needsNothingCompiled(placeholder.style) ? position + 1 : std::string_view::npos;
 }
 
-bool PlainPattern::read(std::string_view pattern) {
-    pattern_ = pattern;
+PlainPattern::PlainPattern(std::string_view pattern) : pattern_(pattern) {
     while (rest_ < pattern.size() && pieces_.size() + 2 <= usualPieces) {
         rest_ = readPieces(rest_, [this](const PlainPiece& piece) { pieces_.push_back(piece); });
     }
@@ -57,7 +56,7 @@ bool PlainPattern::read(std::string_view pattern) {
     while (position < pattern.size()) {
         position = readPieces(position, [](const PlainPiece&) {});
     }
-    return position == pattern.size();
+    isPlain_ = position == pattern.size();
 }
 
 } // namespace zem::msglib

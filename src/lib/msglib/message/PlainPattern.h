@@ -31,10 +31,13 @@ std::size_t readPlainPlaceholder(std::string_view pattern, std::size_t position,
 /// The pattern's text is borrowed.
 class PlainPattern {
 public:
-    /// Reads a pattern whole; false if it isn't plain, or doesn't compile.
-    bool read(std::string_view pattern);
+    /// Reads a pattern whole.
+    explicit PlainPattern(std::string_view pattern);
 
-    /// Calls `visitor` with each piece.
+    /// Tells whether the pattern compiles and has nothing in it that needs to.
+    bool isPlain() const noexcept { return isPlain_; }
+
+    /// Calls `visitor` with each piece of a plain pattern.
     template <class Visitor>
     void forEach(Visitor&& visitor) const {
         for (const PlainPiece& piece : pieces_) {
@@ -69,6 +72,7 @@ private:
     std::string_view pattern_;
     boost::container::small_vector<PlainPiece, usualPieces> pieces_;
     std::size_t rest_ = 0; ///< where the pieces begin that are not kept
+    bool isPlain_;
 };
 
 } // namespace zem::msglib

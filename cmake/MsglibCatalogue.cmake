@@ -9,7 +9,8 @@ include_guard(GLOBAL)
 # `void register<Name>()` (in upper camel case), which registers every facility that the file uses.
 #
 # The target links msglib::msglib itself. It may be given any number of files, and a file to any number of targets. In a
-# static library, the table comes along with the registration function: a program that never calls it has none.
+# static library, the table comes along with the registration function: a program that never calls it has none. On
+# Windows, the tables are a resource of the module, which a static library cannot have.
 function(msglib_add_catalogue target file)
     if(NOT TARGET ${target})
         message(FATAL_ERROR "msglib_add_catalogue: no such target: ${target}")
@@ -39,7 +40,11 @@ function(msglib_add_catalogue target file)
 
     target_sources(${target} PRIVATE "${folder}/${name}.cpp")
     target_include_directories(${target} PRIVATE "${folder}")
-    _msglib_embed_in_elf(${target} "${folder}" "${name}")
+    if(WIN32)
+        _msglib_embed_as_resource(${target} "${folder}" "${name}")
+    else()
+        _msglib_embed_in_elf(${target} "${folder}" "${name}")
+    endif()
 endfunction()
 
 # Makes <name>.h, <name>.cpp and <name>.bin in `folder`.
@@ -65,4 +70,47 @@ function(_msglib_embed_in_elf target folder name)
         SKIP_PRECOMPILE_HEADERS TRUE
         SKIP_UNITY_BUILD_INCLUSION TRUE
         SKIP_AUTOGEN TRUE)
+endfunction()
+
+# Adds a catalogue to the message table resource of a target. A module has one for all its catalogues, so the rule is made
+# with the first of them.
+function(_msglib_embed_as_resource target folder name)
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL "STATIC_LIBRARY")
+        message(FATAL_ERROR "msglib_add_catalogue: ${target} is a static library, which has no resources on Windows; "
+            "give the catalogue to the program or library that links it")
+    endif()
+    get_target_property(others ${target} MSGLIB_CATALOGUES)
+    set_property(TARGET ${target} APPEND PROPERTY MSGLIB_CATALOGUES "${folder}/compiled/${name}.mc")
+    set_property(TARGET ${target} APPEND PROPERTY MSGLIB_CATALOGUE_TABLES "${folder}/${name}.bin")
+    if(others)
+        return()
+    endif()
+
+    set(resource "${CMAKE_CURRENT_BINARY_DIR}/${target}.catalogues/${target}.rc")
+    add_custom_command(
+        OUTPUT "${resource}"
+        COMMAND msglib::msgtable resource "${resource}" "$<TARGET_PROPERTY:${target},MSGLIB_CATALOGUES>"
+        DEPENDS "$<TARGET_PROPERTY:${target},MSGLIB_CATALOGUE_TABLES>" msglib::msgtable
+        COMMENT "Merging message tables of ${target}"
+        COMMAND_EXPAND_LISTS
+        VERBATIM)
+    msglib_add_resource(${target} "${resource}")
+endfunction()
+
+# msglib_add_resource(<target> <file.rc>)
+#
+# Compiles a resource script into a module for Windows. As a source of the target, it would be given the options that the
+# target has for C++.
+function(msglib_add_resource target script)
+    set(object "${script}.obj")
+    add_custom_command(
+        OUTPUT "${object}"
+        COMMAND "${CMAKE_RC_COMPILER}" -O coff "${script}" "${object}"
+        DEPENDS "${script}"
+        COMMENT "Compiling resources of ${target}"
+        VERBATIM)
+    set_source_files_properties("${object}" TARGET_DIRECTORY ${target} PROPERTIES
+        GENERATED TRUE EXTERNAL_OBJECT TRUE)
+    target_sources(${target} PRIVATE "${object}")
 endfunction()

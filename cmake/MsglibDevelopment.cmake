@@ -8,7 +8,7 @@ include(CheckCXXSourceRuns)
 set(MSGLIB_ARITHMETIC_OPTIONS -ffp-contract=off)
 
 function(msglib_check_arithmetic)
-    if(CMAKE_CROSSCOMPILING)
+    if(CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
         return()
     endif()
     set(CMAKE_REQUIRED_FLAGS "${CMAKE_CXX_FLAGS}")

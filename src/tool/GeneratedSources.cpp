@@ -13,6 +13,10 @@ namespace {
 constexpr std::size_t tableHeaderSize = 8;
 constexpr std::size_t alignment = 8;
 
+// The system looks for a message in this resource of a module.
+constexpr int messageTableId = 1;
+constexpr int messageTableType = 11;
+
 bool isWord(char byte) {
     return std::isalnum(static_cast<unsigned char>(byte)) != 0;
 }
@@ -112,6 +116,15 @@ std::string sourceText(const std::string& name, const McFile& file, const std::s
         out << "    library.registerFacility(" << facility << ", &insideThisModule);\n";
     }
     out << "}\n";
+    return out.str();
+}
+
+std::string resourceText(const std::map<std::uint32_t, std::string>& tablePaths) {
+    std::ostringstream out;
+    for (const auto& [language, path] : tablePaths) {
+        out << "LANGUAGE " << (language & 0x3FF) << ", " << (language >> 10) << "\n"
+            << messageTableId << " " << messageTableType << " " << quoted(path) << "\n";
+    }
     return out.str();
 }
 

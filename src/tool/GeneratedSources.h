@@ -27,4 +27,9 @@ std::string headerText(const std::string& name, const McFile& file);
 std::string sourceText(const std::string& name, const McFile& file, const std::string& tablesPath,
                        const std::vector<TablePlace>& places);
 
+/// Returns the resource script that gives a module its message tables.
+///
+/// @param tablePaths  the file of each language's table
+std::string resourceText(const std::map<std::uint32_t, std::string>& tablePaths);
+
 } // namespace zem::msglib::tool

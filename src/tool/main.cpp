@@ -69,6 +69,25 @@ void generateSources(const std::string& source, const fs::path& compiled, const 
     writeFile(output / (name + ".cpp"), sourceText(name, file, tablesPath.string(), places));
 }
 
+/// Writes a resource script and its tables, which hold the messages of all `sources`. Their
+/// compiled tables lie beside them.
+void generateResource(const fs::path& script, const std::vector<std::string>& sources) {
+    std::map<std::uint32_t, MessageTable> tables;
+    for (const std::string& source : sources) {
+        for (const auto& [language, bin] : parseMcFile(source, readLines(source)).bins) {
+            const fs::path compiled = fs::path(source).replace_filename(bin + ".bin");
+            tables[language].merge(readTable(compiled.string()));
+        }
+    }
+    std::map<std::uint32_t, std::string> paths;
+    for (const auto& [language, table] : tables) {
+        const fs::path path = fs::absolute(script).replace_extension(std::to_string(language));
+        writeFile(path, tableBytes(table));
+        paths[language] = path.generic_string();
+    }
+    writeFile(script, resourceText(paths));
+}
+
 int run(int argc, const char* const* argv) {
     CLI::App app("Makes message tables ready to be embedded in a module");
     app.require_subcommand(1);
@@ -87,6 +106,14 @@ int run(int argc, const char* const* argv) {
     generateCommand->add_option("compiled", compiled, "folder of the compiled tables")->required();
     generateCommand->add_option("output", output, "folder for the sources")->required();
     generateCommand->callback([&] { generateSources(source, compiled, output); });
+
+    std::string script;
+    std::vector<std::string> sources;
+    auto* resourceCommand = app.add_subcommand("resource", "Write a resource script for Windows");
+    resourceCommand->add_option("script", script, "resource script to write")->required();
+    resourceCommand->add_option("files", sources, "message text files, each beside its tables")
+        ->required();
+    resourceCommand->callback([&] { generateResource(script, sources); });
 
     try {
         app.parse(argc, argv);

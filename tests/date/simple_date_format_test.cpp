@@ -1,5 +1,6 @@
 #include "message/Outcome.h"
 #include "msglib/SimpleDateFormat.h"
+#include "support/Wine.h"
 
 #include <cstdint>
 #include <ctime>
@@ -23,13 +24,14 @@ TEST(SimpleDateFormat, Patterns) {
         std::string pattern;
         Seconds seconds;
         std::string text;
+        std::string underWine = {};
     } const rows[] = {
         {__LINE__, iso, 0, "1970-01-01 00:00:00"},
         {__LINE__, iso, 86399, "1970-01-01 23:59:59"},
         {__LINE__, iso, 1000000000, "2001-09-09 01:46:40"},
         {__LINE__, iso, -1, "1969-12-31 23:59:59"},
         {__LINE__, "dddd, MMMM d, yyyy", 0, "Thursday, January 1, 1970"},
-        {__LINE__, "ddMMyyy g gg", 1000000000, "09092001 A.D. A.D."},
+        {__LINE__, "ddMMyyy g gg", 1000000000, "09092001 A.D. A.D.", "09092001 AD ADAD"},
         {__LINE__, "h t H", 43200, "12 P 12"},
         {__LINE__, "yyyy-MM-ddTHH:mm", 0, "1970-01-01T00:00"},
         {__LINE__, "YYYY DaSTzGE 0{}#,\xC3\xA9", 5, "YYYY DaSTzGE 0{}#,\xC3\xA9"},
@@ -48,14 +50,17 @@ TEST(SimpleDateFormat, Patterns) {
         {__LINE__, iso, -11644473600, "1601-01-01 00:00:00"},
         {__LINE__, iso, -11644473601, "-- ::"},
         {__LINE__, iso, 910670515199, "30827-12-31 23:59:59"},
-        {__LINE__, iso, 910692730085, "-- 02:48:05"}, // pictures end with 30827
+        // pictures end with 30827
+        {__LINE__, iso, 910692730085, "-- 02:48:05", "30828-09-14 02:48:05"},
         {__LINE__, iso, 910692730086, "-- ::"},
         {__LINE__, "'d'd.", INT64_MAX, "d."},
         {__LINE__, "'d'd.", INT64_MIN, "d."},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
-        EXPECT_EQ(textOfTime(row.pattern, row.seconds), row.text) << row.pattern;
+        const bool differs = !row.underWine.empty() && runsUnderWine();
+        EXPECT_EQ(textOfTime(row.pattern, row.seconds), differs ? row.underWine : row.text)
+            << row.pattern;
     }
 }
 

@@ -1,4 +1,4 @@
-execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE printed COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${EMULATOR} ${PROGRAM} OUTPUT_VARIABLE printed COMMAND_ERROR_IS_FATAL ANY)
 # Standard output has the line ends of its system.
 string(REPLACE "\r\n" "\n" printed "${printed}")
 file(READ ${EXPECTED} expected)

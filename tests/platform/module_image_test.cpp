@@ -79,7 +79,7 @@ TEST(FormatMessageTest, TextsComeAsTheTableHasThem) {
     } const rows[] = {
         {__LINE__, MSG_LINES, 0x409, "Größe € \U0001D11E:\r\n  two\r\n\r\nfour\r\n"},
         {__LINE__, MSG_LINES, 0x407, "eins\r\n"},
-        {__LINE__, MSG_INSERTS, 0x409, "%1 %2!s! 50 %\r\n"},
+        {__LINE__, MSG_INSERTS, 0x409, "%1 %2!s! 50 %\r\n", "%1 %2!s! 50 %\r\r\n"},
         {__LINE__, MSG_ESCAPES, 0x409, "a%nb%rc%td%%e%!f% g%.\r\n", "a\r\nb\rc\td%%e%!f% g%.\r\n"},
         {__LINE__, MSG_SECOND_FILE, 0x409, "second\r\n"},
         {__LINE__, MSG_LINES + 0x100, 0x409, "failed for 317"},
@@ -96,6 +96,11 @@ TEST(FormatMessageTest, TextsComeAsTheTableHasThem) {
 // On Windows, a null module would mean the program itself.
 TEST(FormatMessageTest, AsksModulesOnly) {
     EXPECT_EQ(fetch(nullptr, MSG_LINES, 0x409), "failed for 87");
+    const auto onHeap = std::make_unique<char[]>(4096);
+    for (const void* address :
+         {static_cast<const void*>(zeroedOfThisProgram), static_cast<const void*>(onHeap.get())}) {
+        EXPECT_EQ(fetch(address, MSG_LINES, 0x409).rfind("failed for ", 0), 0U);
+    }
 }
 
 } // namespace

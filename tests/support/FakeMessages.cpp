@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <locale>
 #include <memory>
 #include <sstream>
 #include <utility>
@@ -39,6 +40,7 @@ std::uint32_t FormatMessageW(std::uint32_t flags, HMODULE module, std::uint32_t 
                              void* arguments) noexcept {
     EXPECT_TRUE(size == 0 && arguments == nullptr);
     std::ostringstream lookUp;
+    lookUp.imbue(std::locale::classic());
     lookUp << std::hex << flags << ' ' << module << ' ' << messageId << ' ' << languageId << ';';
     inForce->lookUps += lookUp.str();
     const std::string text = inForce->texts[messageId];

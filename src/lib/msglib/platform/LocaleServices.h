@@ -56,9 +56,9 @@ struct SYSTEMTIME {
 /// Writes one value of a locale, with its terminator, into the `size` bytes at `buffer`.
 ///
 /// @param lctype  one of the `LOCALE_` numbers above
-/// @return the bytes written, or needed if `size` is 0; 0 for an unknown locale or value (87) and
-/// for a buffer that
-///         is too short (122)
+/// @return the bytes written, or needed if `size` is 0; 0 for an unknown locale (87) or value
+/// (1004),
+///         and for a buffer that is too short (122)
 int GetLocaleInfoA(std::uint32_t locale, std::uint32_t lctype, char* buffer, int size) noexcept;
 
 /// Returns the full identifier for an incomplete one, or what it was given.

@@ -38,8 +38,12 @@ std::string_view localeValue(std::uint32_t lctype) noexcept {
 
 int GetLocaleInfoA(std::uint32_t locale, std::uint32_t lctype, char* buffer, int size) noexcept {
     const std::string_view value = localeValue(lctype);
-    if (!isKnownLocale(locale) || value.data() == nullptr || !TextBuffer::accepts(buffer, size)) {
+    if (!isKnownLocale(locale) || !TextBuffer::accepts(buffer, size)) {
         setLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    if (value.data() == nullptr) {
+        setLastError(ERROR_INVALID_FLAGS);
         return 0;
     }
     TextBuffer text(buffer, size);

@@ -21,28 +21,40 @@ std::size_t readDigits(std::string_view text, std::size_t position, int& value) 
     return count;
 }
 
+namespace {
+
+// Reads plain digits if there is nothing else.
+bool readWhole(std::string_view text, int& value) noexcept {
+    const std::size_t digits = readDigits(text, 0, value);
+    return digits > 0 && digits == text.size();
+}
+
+// Extraction reports a failed allocation as a bad stream, unless it is told to let it through.
+template <class Number>
+bool extract(std::string_view text, Number& number) {
+    std::istringstream stream{std::string(text)};
+    stream.exceptions(std::ios_base::badbit);
+    return static_cast<bool>(stream >> number);
+}
+
+} // namespace
+
 bool extractInt(std::string_view text, int& value) {
-    if (const std::size_t digits = readDigits(text, 0, value);
-        digits > 0 && digits == text.size()) {
-        return true;
-    }
-    int extracted = 0;
-    if (!(std::istringstream(std::string(text)) >> extracted)) {
+    int number = 0;
+    if (!readWhole(text, number) && !extract(text, number)) {
         return false;
     }
-    value = extracted;
+    value = number;
     return true;
 }
 
 double extractDouble(std::string_view text) {
-    int whole = 0;
-    if (const std::size_t digits = readDigits(text, 0, whole);
-        digits > 0 && digits == text.size()) {
+    if (int whole = 0; readWhole(text, whole)) {
         return whole;
     }
-    double value = 0.0;
-    std::istringstream(std::string(text)) >> value;
-    return value;
+    double number = 0.0;
+    extract(text, number);
+    return number;
 }
 
 } // namespace zem::msglib

@@ -22,14 +22,6 @@ struct MessageFormatStream::Impl {
                                    : MessageLibrary::instance().formatMessage(messageId_, args_);
     }
 
-    void addRendered() {
-        if (text_.empty()) {
-            text_ = rendered();
-        } else {
-            text_ += rendered();
-        }
-    }
-
     void add(boost::any&& argument) { args_.push_back(std::move(argument)); }
 };
 
@@ -59,18 +51,19 @@ unsigned int MessageFormatStream::messageId() const {
 }
 
 std::string MessageFormatStream::toString() const {
-    impl_->addRendered();
-    return impl_->text_;
+    std::string text = impl_->text_ + impl_->rendered();
+    impl_->text_ = text;
+    return text;
 }
 
 MessageFormatStream& MessageFormatStream::append(const MessageFormatStream& other) {
     if (this == &other) {
-        impl_->addRendered();
+        toString();
         return *this;
     }
     // Whatever fails comes before the first change.
     std::list<boost::any> args(other.impl_->args_);
-    impl_->addRendered();
+    impl_->text_ += impl_->rendered();
     impl_->messageId_ = other.impl_->messageId_;
     impl_->pattern_ = other.impl_->pattern_;
     impl_->args_ = std::move(args);

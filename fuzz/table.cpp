@@ -1,0 +1,80 @@
+// Message tables and notes of any bytes.
+
+#include "Properties.h"
+#include "platform/portable/NoteReader.h"
+#include "platform/portable/TableReader.h"
+
+#include <cstring>
+#include <optional>
+#include <set>
+
+namespace zem::msglib::fuzzing {
+namespace {
+
+using platform::Bytes;
+using platform::findInNotes;
+using platform::MessageText;
+using platform::TableReader;
+
+constexpr std::uint32_t language = 0x409;
+
+std::u16string unitsOf(const std::optional<MessageText>& text) {
+    std::u16string units(text ? text->length() : 0, u'\0');
+    if (text) {
+        text->copyTo(units.data());
+    }
+    require(!text || !units.empty(), "a text is not empty");
+    require(units.find(u'\0') == std::u16string::npos, "a text ends before its first NUL");
+    return units;
+}
+
+void appendNumber(std::string& bytes, std::uint32_t number) {
+    char raw[sizeof number];
+    std::memcpy(raw, &number, sizeof number);
+    bytes.append(raw, sizeof raw);
+}
+
+// A note segment: a note that is no table, and one that holds the table.
+std::string notesOf(const std::string& table) {
+    std::string notes("\4\0\0\0\0\0\0\0\1\0\0\0GNU\0", 16);
+    appendNumber(notes, 11);
+    appendNumber(notes, static_cast<std::uint32_t>(8 + table.size()));
+    appendNumber(notes, 0x4d544231);
+    notes.append("zem.msglib\0", 12);
+    appendNumber(notes, language);
+    appendNumber(notes, static_cast<std::uint32_t>(table.size()));
+    return notes + table;
+}
+
+// The ends of the first blocks, and what lies beside them.
+std::set<std::uint32_t> interestingIds(Bytes table) {
+    constexpr std::size_t mostBlocks = 8;
+    std::set<std::uint32_t> ids = {0, 1, UINT32_MAX};
+    for (std::size_t block = 0; block < mostBlocks; ++block) {
+        for (const std::size_t offset : {4 + 12 * block, 8 + 12 * block}) {
+            const std::uint32_t end = table.u32(offset);
+            ids.insert({end - 1, end, end + 1});
+        }
+    }
+    return ids;
+}
+
+} // namespace
+} // namespace zem::msglib::fuzzing
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace zem::msglib::fuzzing;
+    const Bytes table(data, size);
+    const std::string segment = notesOf(Input(data, size).whole);
+    const Bytes notes(segment.data(), segment.size());
+    for (const std::uint32_t id : interestingIds(table)) {
+        const std::u16string text = unitsOf(TableReader(table).find(id));
+        for (const std::size_t alignment : {4U, 8U}) {
+            require(unitsOf(findInNotes(notes, alignment, language, id)) == text,
+                    "a note gives the texts of its table");
+            require(!findInNotes(notes, alignment, language + 1, id), "and in its language only");
+            unitsOf(findInNotes(table, alignment, language, id));
+        }
+    }
+    return 0;
+}

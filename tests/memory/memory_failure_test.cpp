@@ -1,0 +1,214 @@
+#include "Allocations.h"
+#include "MemoryTexts.h"
+
+#include "msglib/ChoiceFormat.h"
+#include "msglib/DecimalFormat.h"
+#include "msglib/MessageFormat.h"
+#include "msglib/MessageFormatStream.h"
+#include "msglib/MessageLibrary.h"
+#include "msglib/SimpleDateFormat.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <new>
+
+namespace zem::msglib {
+namespace {
+
+using namespace std::string_literals;
+
+// Acts on a new object with the first allocation failing, with the second, and so on until none
+// fails. The failure has to reach the caller, nothing may leak, and the next try has to succeed.
+template <class Make, class Act, class CheckFailed, class CheckDone>
+void failEachAllocation(const Make& make, const Act& act, const CheckFailed& checkFailed,
+                        const CheckDone& checkDone) {
+    bool failed = true;
+    for (std::size_t nth = 1; failed; ++nth) {
+        SCOPED_TRACE("allocation " + std::to_string(nth));
+        const std::size_t live = liveAllocations();
+        {
+            auto object = make();
+            bool thrown = false;
+            {
+                const FailingAllocation failing(nth);
+                try {
+                    act(object);
+                } catch (const std::bad_alloc&) {
+                    thrown = true;
+                }
+                failed = failing.hasFailed();
+            }
+            EXPECT_EQ(thrown, failed) << "the failure is kept from the caller";
+            EXPECT_TRUE(failed || nth > 1) << "there is no allocation to fail";
+            if (thrown) {
+                checkFailed(object);
+                act(object);
+            }
+            checkDone(object);
+        }
+        ASSERT_EQ(liveAllocations(), live) << "a block is lost";
+    }
+}
+
+const std::string longText = "a text that has no room inside of a string object";
+const std::list<boost::any> args = {longText, 3};
+const std::string keywordPattern =
+    "Beyond the small texts: {0}, { 1 }, {1,number,currency} {1,choice,0#none|0.5#{1,number,00.0 "
+    "'of' \xA4} {0,foo}}. {1,number,integer} {1,date,long} {1,time} {1,date,'the year' yyyy}";
+const std::string pattern =
+    keywordPattern + " {1,number,percent}{1,number,#,##0.00 of them and all}";
+
+std::string textOf(const MessageFormat& message) {
+    std::string text;
+    return message.format(args, text);
+}
+
+std::string textOf(const NumberFormat& format) {
+    std::string text;
+    return format.format(2.5, text);
+}
+
+std::string textOf(const DateFormat& format) {
+    std::string text;
+    return format.format(boost::any(2), text);
+}
+
+// The words of a failure count as the text.
+std::string textOf(const MessageFormatStream& stream) {
+    try {
+        return MessageFormatStream(stream).toString();
+    } catch (const std::runtime_error& failure) {
+        return failure.what();
+    }
+}
+
+TEST(MemoryFailure, ReachesTheCallerAndLosesNothing) {
+    registerMemoryTexts();
+    const MessageLibrary& library = MessageLibrary::instance();
+    const std::locale locale;
+    const struct {
+        int line;
+        std::function<std::string()> operation;
+    } rows[] = {
+        {__LINE__, [&] { return library.formatMessage(pattern, args); }},
+        {__LINE__, [&] { return library.formatMessage("{0} and {1}", args); }},
+        {__LINE__, [&] { return library.formatMessage(MSG_ALL, args); }},
+        {__LINE__, [&] { return library.formatMessage(MSG_WRONG, args); }},
+        {__LINE__, [&] { return library.formatMessage(MSG_WRONG + 1, args); }},
+        {__LINE__, [] { return textOf(MessageFormat(pattern)); }},
+        {__LINE__, [] { return textOf(ChoiceFormat("-1.5#" + longText + "|1e3#b")); }},
+        {__LINE__, [] { return textOf(DecimalFormat("'" + longText + "'0.0\xA4;(#)", {})); }},
+        {__LINE__, [&] { return textOf(SimpleDateFormat(longText, locale)); }},
+        {__LINE__, [] { return textOf(MessageFormatStream(MSG_ALL) << longText << 3); }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const std::string expected = row.operation();
+        failEachAllocation(
+            [] { return std::string(); }, [&](std::string& text) { text = row.operation(); },
+            [](const std::string&) {}, [&](const std::string& text) { EXPECT_EQ(text, expected); });
+    }
+}
+
+// The documentation promises formatters no more than that they can still be used.
+template <class Formatter>
+void failChanges(const Formatter& former, const Formatter& next, const std::string& nextPattern) {
+    const std::string expected = textOf(next);
+    const auto checkFailed = [](Formatter& formatter) { textOf(formatter); };
+    const auto checkDone = [&](Formatter& formatter) { EXPECT_EQ(textOf(formatter), expected); };
+    const auto make = [&] { return former; };
+    failEachAllocation(
+        make, [&](Formatter& formatter) { formatter.applyPattern(nextPattern); }, checkFailed,
+        checkDone);
+    failEachAllocation(
+        make, [&](Formatter& formatter) { formatter = next; }, checkFailed, checkDone);
+}
+
+TEST(MemoryFailure, FormattersCanStillBeUsed) {
+    const std::locale locale;
+    const std::string choices = "0#" + longText + "|1.5#" + longText;
+    const std::string decimal = longText + "#,##0.00" + longText + ";(#" + longText + ')';
+    failChanges(MessageFormat("former {0}"), MessageFormat(pattern), pattern);
+    failChanges(ChoiceFormat("0#former"), ChoiceFormat(choices), choices);
+    failChanges(DecimalFormat("0", {}), DecimalFormat(decimal, {}), decimal);
+    failChanges(SimpleDateFormat("", locale), SimpleDateFormat(longText, locale), longText);
+}
+
+TEST(MemoryFailure, RenderingKeepsWhatIsAppended) {
+    struct Rendering {
+        MessageFormat message{pattern};
+        std::string out = "kept ";
+    };
+    const std::string expected = "kept " + textOf(MessageFormat(pattern));
+    failEachAllocation([] { return Rendering(); },
+                       [](Rendering& rendering) { rendering.message.format(args, rendering.out); },
+                       [&](Rendering& rendering) {
+                           EXPECT_EQ(rendering.out, expected.substr(0, rendering.out.size()));
+                           EXPECT_GE(rendering.out.size(), 5U);
+                           rendering.out = "kept ";
+                       },
+                       [&](Rendering& rendering) { EXPECT_EQ(rendering.out, expected); });
+}
+
+// But for decimal patterns, which are compiled in place.
+TEST(MemoryFailure, LocaleLeavesTextsAlone) {
+    const std::string expected = textOf(MessageFormat(keywordPattern));
+    const auto check = [&](const MessageFormat& message) { EXPECT_EQ(textOf(message), expected); };
+    failEachAllocation([] { return MessageFormat(keywordPattern); },
+                       [](MessageFormat& message) { message.setLocale(std::locale::classic()); },
+                       check, check);
+}
+
+TEST(MemoryFailure, StreamsStayAsTheyWere) {
+    registerMemoryTexts();
+    const auto one = MessageFormatStream("{0}, {1}") << "one";
+    const auto two = MessageFormatStream(one) << "two";
+    const std::string indexTooHigh =
+        "Argument index in format exceeds number of specified arguments";
+    const std::string all = textOf(MessageFormatStream(MSG_ALL) << longText << 3);
+    const struct {
+        int line;
+        MessageFormatStream start;
+        std::function<void(MessageFormatStream&)> change;
+        std::string before, after;
+    } rows[] = {
+        {__LINE__, one, [](auto& stream) { stream << 7; }, indexTooHigh, "one, 7"},
+        {__LINE__, one, [](auto& stream) { stream << longText; }, indexTooHigh, "one, " + longText},
+        {__LINE__, one, [](auto& stream) { stream << longText.c_str(); }, indexTooHigh,
+         "one, " + longText},
+        {__LINE__, two,
+         [](auto& stream) { stream = MessageFormatStream(MSG_ALL) << longText << 3; }, "one, two",
+         all},
+        {__LINE__, two, [](auto& stream) { stream << (MessageFormatStream("{0}") << longText); },
+         "one, two", "one, two" + longText},
+        {__LINE__, MessageFormatStream(MSG_ALL) << longText << 3,
+         [](auto& stream) { stream << MessageFormatStream(MSG_WRONG); }, all,
+         all + "zero mark following digit"},
+        {__LINE__, two, [](auto& stream) { stream << stream; }, "one, two", "one, twoone, two"},
+        {__LINE__, MessageFormatStream(MSG_ALL) << longText << 3,
+         [](auto& stream) { stream.toString(); }, all, all + all},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        failEachAllocation(
+            [&] { return row.start; }, row.change,
+            [&](const MessageFormatStream& stream) { EXPECT_EQ(textOf(stream), row.before); },
+            [&](const MessageFormatStream& stream) { EXPECT_EQ(textOf(stream), row.after); });
+    }
+}
+
+TEST(MemoryFailure, RegistrationsStayAsTheyWere) {
+    constexpr unsigned int facility = 0x121;
+    MessageLibrary& library = MessageLibrary::instance();
+    {
+        const FailingAllocation failing(1);
+        EXPECT_THROW(library.registerFacility(facility, &longText), std::bad_alloc);
+    }
+    EXPECT_THROW(library.formatMessage(facility << 16, {}), std::runtime_error);
+    library.registerFacility(facility, &longText);
+    EXPECT_EQ(library.formatMessage(facility << 16, {}), "Invalid message ID");
+}
+
+} // namespace
+} // namespace zem::msglib

@@ -13,29 +13,20 @@ using namespace std::string_literals;
 using Stream = MessageFormatStream;
 
 TEST(MessageFormatStream, KeepsTheTypeOfEachArgument) {
-    const std::string text = "t";
-    struct {
-        int line;
-        std::string rendered, text;
-    } const rows[] = {
-        {__LINE__, (Stream("{0}") << 'x').toString(), "x"},
-        {__LINE__, (Stream("{0}{1}") << -7 << 2147483647).toString(), "-72,147,483,647"},
-        {__LINE__, (Stream("{0}") << short{-7}).toString(), "-7"},
-        {__LINE__, (Stream("{0}") << true).toString(), "1"},
-        {__LINE__, (Stream("{0}") << -2147483647L).toString(), "-2,147,483,647"},
-        {__LINE__, (Stream("{0}") << -5'000'000'000LL).toString(), "-5,000,000,000"},
-        {__LINE__, (Stream("{0}") << 4294967295U).toString(), "4,294,967,295"},
-        {__LINE__, (Stream("{0}") << 4294967295UL).toString(), "4,294,967,295"},
-        {__LINE__, (Stream("{0,choice,0#small|1e18#huge}") << (1ULL << 63)).toString(), "huge"},
-        {__LINE__, (Stream("{0}{1}") << 7.0 << 0.5F).toString(), "7.000.50"},
-        {__LINE__, (Stream("{0}") << "a\0b"s.c_str()).toString(), "a"},
-        {__LINE__, (Stream("{0}") << "a\0b"s).toString(), "a\0b"s},
-        {__LINE__, (Stream("{0}") << std::string_view("a\0bc", 3)).toString(), "a\0b"s},
-        {__LINE__, (Stream("{0}{1}") << text << std::string_view(text)).toString(), "tt"},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.rendered, row.text) << row.line;
-    }
+    EXPECT_EQ((Stream("{0}") << 'x').toString(), "x");
+    EXPECT_EQ((Stream("{0}{1}") << -7 << true).toString(), "-71");
+    EXPECT_EQ((Stream("{0}") << -2147483647L).toString(), "-2,147,483,647");
+    EXPECT_EQ((Stream("{0}") << -5'000'000'000LL).toString(), "-5,000,000,000");
+    EXPECT_EQ((Stream("{0}") << 4294967295U).toString(), "4,294,967,295");
+    EXPECT_EQ((Stream("{0}") << 4294967295UL).toString(), "4,294,967,295");
+    EXPECT_EQ((Stream("{0,choice,0#small|1e18#huge}") << (1ULL << 63)).toString(), "huge");
+    EXPECT_EQ((Stream("{0}{1}") << 7.0 << 0.5F).toString(), "7.000.50");
+    EXPECT_EQ((Stream("{0}{1}") << "a\0b"
+                                << "c"s)
+                  .toString(),
+              "ac");
+    EXPECT_EQ((Stream("{0}") << "a\0b"s).toString(), "a\0b"s);
+    EXPECT_EQ((Stream("{0}") << std::string_view("a\0bc", 3)).toString(), "a\0b"s);
     EXPECT_THROW((Stream("{0,number}") << '7').toString(), std::runtime_error);
     EXPECT_THROW((Stream("{0,number}") << "7").toString(), std::runtime_error);
 }
@@ -52,22 +43,12 @@ TEST(MessageFormatStream, LongBeyond32BitsIsRefusedWithoutATrace) {
     EXPECT_EQ((stream << "x").toString(), "x");
 }
 
-TEST(MessageFormatStream, TextAccumulates) {
-    const Stream stream("{0}");
-    EXPECT_EQ(&(stream << "a"), &stream);
-    EXPECT_EQ(stream.toString(), "a");
-    stream << "b";
-    EXPECT_EQ(stream.toString(), "aa");
-    EXPECT_EQ(Stream("").toString(), "");
-}
-
 TEST(MessageFormatStream, JoinsMessages) {
     EXPECT_EQ((Stream("a{0}") << "1" << Stream("b{0}") << "2").toString(), "a1b2");
-    EXPECT_EQ((Stream("y") << (Stream("x{0}") << "1")).toString(), "yx1");
     EXPECT_EQ((Stream("{0}") << "1" << Stream("b") << "2" << Stream("{0}") << "3").toString(),
               "1b3");
     const Stream right("r{0}");
-    right << "1";
+    EXPECT_EQ(&(right << "1"), &right);
     EXPECT_EQ(right.toString(), "r1");
     const Stream left("l");
     left << right << "2";
@@ -82,28 +63,24 @@ TEST(MessageFormatStream, JoinsMessages) {
 }
 
 TEST(MessageFormatStream, CopiesAreDeepAndMovesTakeTheRecord) {
-    Stream stream("{0}{1}");
-    stream << "a"
-           << "b";
-    EXPECT_EQ(stream.toString(), "ab");
+    Stream stream("{0}");
+    EXPECT_EQ((stream << "a").toString(), "a");
     Stream copy(stream);
     copy << Stream("c");
-    EXPECT_EQ(copy.toString(), "ababc");
-    EXPECT_EQ(stream.toString(), "abab");
+    EXPECT_EQ(copy.toString(), "aac");
+    EXPECT_EQ(stream.toString(), "aa");
 
     Stream moved(std::move(stream));
-    EXPECT_EQ(moved.toString(), "ababab");
+    EXPECT_EQ(moved.toString(), "aaa");
     stream = moved;
-    EXPECT_EQ(stream.toString(), "abababab");
-    EXPECT_EQ(moved.toString(), "abababab");
+    EXPECT_EQ(stream.toString(), "aaaa");
+    EXPECT_EQ(moved.toString(), "aaaa");
     copy = std::move(moved);
-    EXPECT_EQ(copy.toString(), "ababababab");
-    moved = Stream("new");
-    EXPECT_EQ(moved.toString(), "new");
-    Stream& itself = moved;
-    moved = itself;
-    moved = std::move(itself);
-    EXPECT_EQ(moved.toString(), "newnew");
+    EXPECT_EQ(copy.toString(), "aaaaa");
+    Stream& itself = copy;
+    copy = itself;
+    copy = std::move(itself);
+    EXPECT_EQ(copy.toString(), "aaaaaa");
 }
 
 TEST(MessageFormatStream, MessageIdIsThatOfTheCurrentMessage) {

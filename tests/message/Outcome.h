@@ -2,12 +2,10 @@
 
 #include "msglib/MessageFormat.h"
 #include "msglib/MessageLibrary.h"
+#include "support/Rendering.h"
 
 #include <geom/Angle.h>
 
-#include <gtest/gtest.h>
-
-#include <exception>
 #include <list>
 #include <string>
 #include <vector>
@@ -26,42 +24,23 @@ inline const std::string notADate = "Invalid date argument type";
 inline const std::string choiceSyntax = "Syntax error in choice format.";
 inline const std::string longOutOfRange = "Value of type long is outside its 32-bit range";
 
-/// Renders behind bytes that are already there, which have to stay.
-///
-/// Returns the text, and behind it "!" and the words of the failure if there is one.
-template <class Formatter, class Value>
-std::string textOf(const Formatter& formatter, const Value& value) {
-    const std::string kept = "kept {0}'";
-    std::string out = kept;
-    std::string failure;
-    try {
-        EXPECT_EQ(&formatter.format(value, out), &out);
-    } catch (const std::exception& caught) {
-        failure = std::string("!") + caught.what();
-    }
-    EXPECT_EQ(out.substr(0, kept.size()), kept);
-    return out.substr(kept.size()) + failure;
-}
-
-/// Renders at once, without a compiled form to keep: as `textOf`, or only "!" and the words.
-inline std::string outcomeAtOnce(const std::string& pattern, const Arguments& args) {
-    try {
-        return MessageLibrary::instance().formatMessage(pattern, args);
-    } catch (const std::exception& caught) {
-        return std::string("!") + caught.what();
-    }
+/// Renders at once by a pattern or an identifier: as `textOf`, or only "!" and the words.
+template <class Message>
+std::string outcomeAtOnce(const Message& message, const Arguments& args) {
+    std::string text;
+    const std::string failure =
+        failureOf([&] { text = MessageLibrary::instance().formatMessage(message, args); }, "!");
+    return text + failure;
 }
 
 /// Compiles and renders: as `textOf`, or "compile!" and the words if the pattern does not compile.
 inline std::string outcome(const std::string& pattern, const Arguments& args) {
     std::string kept;
-    try {
-        kept = textOf(MessageFormat(pattern), args);
-    } catch (const std::exception& caught) {
-        kept = std::string("compile!") + caught.what();
-    }
-    const std::string atOnce = outcomeAtOnce(pattern, args);
-    EXPECT_EQ(kept.find('!') != std::string::npos ? kept.substr(kept.rfind('!')) : kept, atOnce)
+    const std::string failure =
+        failureOf([&] { kept = textOf(MessageFormat(pattern), args); }, "compile!");
+    kept += failure;
+    EXPECT_EQ(kept.find('!') != std::string::npos ? kept.substr(kept.rfind('!')) : kept,
+              outcomeAtOnce(pattern, args))
         << pattern;
     return kept;
 }

@@ -11,7 +11,6 @@
 #include <iostream>
 #include <random>
 #include <set>
-#include <string_view>
 
 namespace zem::msglib {
 namespace {
@@ -20,19 +19,6 @@ template <class Number>
 std::string quickText(const NumberFormat& format, Number value) {
     std::string text;
     return format.format(value, text);
-}
-
-// Calls `check` with every text that adds up to `length` of the `bytes` to `text`, until a test
-// fails.
-template <class Check>
-void forEachText(std::string_view bytes, int length, std::string text, const Check& check) {
-    check(text);
-    if (length == 0 || testing::Test::HasFailure()) {
-        return;
-    }
-    for (const char byte : bytes) {
-        forEachText(bytes, length - 1, text + byte, check);
-    }
 }
 
 // A formatter that has had all the patterns before has to agree with one that had none of them.
@@ -60,7 +46,7 @@ TEST(GeneratedPatterns, EveryShortDecimalPattern) {
                 ASSERT_EQ(quickText(format, 1234L), quickText(format, 1234.0)) << pattern;
             }
         });
-    const std::set<std::string> documented = {"no failure",
+    const std::set<std::string> documented = {"",
                                               "digit mark (#) following zero-index",
                                               "zero mark following digit",
                                               "digit mark (#) following zero in exponent",
@@ -74,14 +60,7 @@ TEST(GeneratedPatterns, EveryShortChoicePattern) {
     const auto outcomes =
         compileAll("+#<|{}'1", ChoiceFormat("5#former|6#pattern"),
                    [](const std::string&, const ChoiceFormat& format) { quickText(format, 1L); });
-    const std::set<std::string> documented = {"no failure", "Syntax error in choice format."};
-    EXPECT_EQ(outcomes, documented);
-}
-
-double doubleOf(std::uint64_t bits) {
-    double value = 0.0;
-    std::memcpy(&value, &bits, sizeof value);
-    return value;
+    EXPECT_EQ(outcomes, (std::set<std::string>{"", "Syntax error in choice format."}));
 }
 
 // Doubles of the kinds that break the writing of numbers, one kind after the other. Numbers with
@@ -92,10 +71,11 @@ double someDouble(int count, std::mt19937_64& random) {
     const auto small = static_cast<double>(bits % 2000000);
     const int exponent = static_cast<int>(bits % 48) - 24;
     const double neighbour = sign * (count % 3 == 0 ? 1.0 : 1.0 + std::ldexp(count % 3 - 1.5, -52));
-    switch (count % 64) {
-    case 0: return doubleOf(bits);
-    case 1: return sign * doubleOf(bits >> 12U); // subnormal
-    default: break;
+    if (count % 64 < 2) { // any bits, and subnormal ones
+        const std::uint64_t some = bits >> (count % 64 == 0 ? 0U : 12U);
+        double value = 0.0;
+        std::memcpy(&value, &some, sizeof value);
+        return value;
     }
     switch (count % 5) {
     case 0: return neighbour * (small + 0.5);

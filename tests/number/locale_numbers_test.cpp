@@ -50,11 +50,11 @@ TEST(LocaleSymbols, EachComesFromItsOwnQuery) {
         EXPECT_EQ(dump(DecimalFormatSymbols()), row.failing);
     }
     const std::string longest(63, 'k');
-    const FakeLocale locale({{LOCALE_SCURRENCY, longest}, {LOCALE_SINTLSYMBOL, longest + "k"}});
-    EXPECT_EQ(dump(DecimalFormatSymbols()), longest + " $ -..,,0");
-    FakeLocale::values.clear();
-    EXPECT_EQ(dump(DecimalFormatSymbols()), "$ $ -..,,0");
-    const FakeLocale wordy({{LOCALE_STHOUSAND, longest}, {LOCALE_SDECIMAL, longest}});
+    const FakeLocale wordy({{LOCALE_STHOUSAND, longest},
+                            {LOCALE_SDECIMAL, longest},
+                            {LOCALE_SCURRENCY, longest},
+                            {LOCALE_SINTLSYMBOL, longest + "k"}});
+    EXPECT_EQ(dump(DecimalFormatSymbols()), longest + " $ -" + longest + "." + longest + ",0");
     const std::string text = textOf(DecimalFormat("#,0.0", {}), 1.7976931348623157e308);
     EXPECT_EQ(text.size(), 309 + 309 * longest.size() + 1);
 }
@@ -62,7 +62,6 @@ TEST(LocaleSymbols, EachComesFromItsOwnQuery) {
 TEST(LocaleSymbols, StandInTexts) {
     LocaleValues digits = otherSymbols;
     digits[LOCALE_SNATIVEDIGITS] = "0";
-    const LocaleValues wide = {{LOCALE_STHOUSAND, "\xC2\xA0"}, {LOCALE_SDECIMAL, "<.>"}};
     const LocaleValues none = {
         {LOCALE_STHOUSAND, ""}, {LOCALE_SDECIMAL, ""}, {LOCALE_SNEGATIVESIGN, ""}};
     const struct {
@@ -79,10 +78,7 @@ TEST(LocaleSymbols, StandInTexts) {
         {__LINE__, digits, "#,##0.0 \xA4\xA4", -1234.5, "~1'234:5 XYZ", "~1'234:0 XYZ"},
         {__LINE__, digits, "#,##0.0;#\xA4", 1234.5, "1'234:5", "1'234:0"},
         {__LINE__, digits, "0.###E0", -0.00123, "~1,23E~3", "0E0"},
-        {__LINE__, wide, "0,0,0.0", 12.5, "0\xC2\xA0\x31\xC2\xA0\x32<.>5",
-         "0\xC2\xA0\x31\xC2\xA0\x32<.>0"},
         {__LINE__, none, "#,##0.0", -1234567.5, "12345675", "12345670"},
-        {__LINE__, otherSymbols, "#,##0.00", 7.5, "H,FA", "H,AA"},
         {__LINE__, otherSymbols, "00,000.0E00", 1230.0, "BC.DAA,AE~AB", "BC.DAA,AE~AB"},
     };
     for (const auto& row : rows) {
@@ -138,14 +134,11 @@ TEST(LocalePatterns, FollowTheLocaleValues) {
         {__LINE__, number, "0", "0", "0", "", "0", "0.0-0 |  | 1234568 | (1235)"},
         {__LINE__, number, "1", "1", "1", "", "3", "1.1-1, | 0.0 | 1,2,3,4,5,6,7.9 | 1,2,3,4.5-"},
         {__LINE__, number, "", "10", " 1x", "", "3x", "1.1-1 | 0.0 | 1234567.9 | 1234.5-"},
-        {__LINE__, number, "x", "", "", "", "", "0.0-0 |  | 1234568 | -1235"},
         {__LINE__, number, "10", "1", "4097", "", "/", "1.0-0, | 0 | 1234568 | -1235"},
         {__LINE__, integer, "-1", "1", "2", "", "5", "1.0-0 | 0 | 1234568 | -1235"},
         {__LINE__, percent, "3", "1", "1", "", "0",
          "1.1-1, | 0.0% | 123,456,789.1% | (123,450.0%)"},
-        {__LINE__, percent, "0", "1", "0", "", "1", "1.0-0 | 0% | 123456789% | -123450%"},
         {__LINE__, percent, "0", "1", "0", "", "2", "1.0-0 | 0% | 123456789% | - 123450%"},
-        {__LINE__, percent, "0", "1", "0", "", "3", "1.0-0 | 0% | 123456789% | 123450%-"},
         {__LINE__, percent, "0", "0", "0", "", "4", "0.0-0 | % | 123456789% | 123450% -"},
         {__LINE__, currency, "3", "1", "2", "0", "0",
          "1.2-2, | kr0.00 | kr1,234,567.89 | (kr1,234.50)"},

@@ -5,8 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <exception>
+#include <locale>
 #include <sstream>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
 
@@ -17,27 +19,49 @@ struct PatternCase {
     const char* expected;
 };
 
-/// Renders into an empty string and behind earlier text, which has to stay and change nothing.
-template <class Formatter, class Value>
-std::string textOf(const Formatter& formatter, const Value& value) {
-    const std::string kept = "kept 1,234.5: ";
-    std::string alone;
-    std::string behind = kept;
-    EXPECT_EQ(&formatter.format(value, alone), &alone);
-    EXPECT_EQ(formatter.format(value, behind), kept + alone);
-    return alone;
-}
-
-/// Returns the words that `operation` fails with, or "no failure".
+/// Returns `mark` and the words that `operation` fails with, or nothing if it succeeds.
 template <class Operation>
-std::string failureOf(Operation operation) {
+std::string failureOf(const Operation& operation, const std::string& mark = "") {
     try {
         operation();
     } catch (const std::exception& caught) {
-        return caught.what();
+        return mark + caught.what();
     }
-    return "no failure";
+    return "";
 }
+
+/// Renders behind bytes that are already there, which have to stay and change nothing.
+///
+/// Returns the text, and behind it "!" and the words of the failure if there is one.
+template <class Formatter, class Value>
+std::string textOf(const Formatter& formatter, const Value& value) {
+    const std::string kept = "kept 1,234.5 {0}'";
+    std::string out = kept;
+    const std::string failure =
+        failureOf([&] { EXPECT_EQ(&formatter.format(value, out), &out); }, "!");
+    EXPECT_EQ(out.substr(0, kept.size()), kept);
+    return out.substr(kept.size()) + failure;
+}
+
+/// Calls `check` with every text that adds up to `length` of the `bytes` to `text`, until a test
+/// fails.
+template <class Check>
+void forEachText(std::string_view bytes, int length, std::string text, const Check& check) {
+    check(text);
+    if (length == 0 || testing::Test::HasFailure()) {
+        return;
+    }
+    for (const char byte : bytes) {
+        forEachText(bytes, length - 1, text + byte, check);
+    }
+}
+
+/// Numbers with a decimal comma, and a point in front of each two digits.
+class CommaForms : public std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\2"; }
+};
 
 /// A formatter as one text: its digit limits but for the usual 309, "," if it groups, and the texts
 /// of three values.

@@ -21,10 +21,7 @@ TEST(MessageFormatStream, KeepsTheTypeOfEachArgument) {
     EXPECT_EQ((Stream("{0}") << 4294967295UL).toString(), "4,294,967,295");
     EXPECT_EQ((Stream("{0,choice,0#small|1e18#huge}") << (1ULL << 63)).toString(), "huge");
     EXPECT_EQ((Stream("{0}{1}") << 7.0 << 0.5F).toString(), "7.000.50");
-    EXPECT_EQ((Stream("{0}{1}") << "a\0b"
-                                << "c"s)
-                  .toString(),
-              "ac");
+    EXPECT_EQ((Stream("{0}{1}") << "a\0b"s.c_str() << "c"s).toString(), "ac");
     EXPECT_EQ((Stream("{0}") << "a\0b"s).toString(), "a\0b"s);
     EXPECT_EQ((Stream("{0}") << std::string_view("a\0bc", 3)).toString(), "a\0b"s);
     EXPECT_THROW((Stream("{0,number}") << '7').toString(), std::runtime_error);

@@ -112,10 +112,10 @@ std::string formOf(Factory factory) {
     for (const double value :
          {0.0, 0.5, 4.005, 1234567.891, 1e23, 1e307, -1234.5, HUGE_VAL, std::nan("")}) {
         std::string text = "kept";
-        LocaleNumberFormat::append(value, locale, type, text);
+        LocaleNumberFormat::append(type, value, text);
         EXPECT_EQ(text, "kept" + textOf(*format, value)) << value;
         text = "kept";
-        LocaleNumberFormat::appendRounded(value, locale, text);
+        LocaleNumberFormat::appendRounded(value, text);
         EXPECT_EQ(text, "kept" + textOf(*rounded, value)) << value;
     }
     return dump(*format);

@@ -2,8 +2,8 @@
 
 #include "platform/LocaleServices.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 namespace zem::msglib {
@@ -15,15 +15,17 @@ class LocaleValue {
 public:
     /// Asks the platform for the value `lctype`.
     explicit LocaleValue(std::uint32_t lctype) noexcept
-        : found_(platform::GetLocaleInfoA(platform::localeIdentifier, lctype, buffer_, Size) != 0) {
-        buffer_[found_ ? Size - 1 : 0] = '\0';
+        : length_(platform::GetLocaleInfoA(platform::localeIdentifier, lctype, buffer_, Size) - 1) {
+        buffer_[found() ? length_ : 0] = '\0';
     }
 
     /// Tells whether the platform had the value.
-    bool found() const noexcept { return found_; }
+    bool found() const noexcept { return length_ >= 0; }
 
-    /// Returns the bytes up to the terminator. They live as long as this object.
-    std::string_view text() const noexcept { return c_str(); }
+    /// Returns the bytes in front of the terminator. They live as long as this object.
+    std::string_view text() const noexcept {
+        return {buffer_, static_cast<std::size_t>(found() ? length_ : 0)};
+    }
 
     /// The same as a C string.
     const char* c_str() const noexcept { return buffer_; }
@@ -33,7 +35,7 @@ public:
 
 private:
     char buffer_[Size];
-    bool found_;
+    int length_; // -1 for a failed query
 };
 
 using LocaleNumberValue = LocaleValue<64>;

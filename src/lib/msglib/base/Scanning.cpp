@@ -1,55 +1,99 @@
 #include "base/Scanning.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdint>
 
 namespace zem::msglib {
 
 namespace {
 
 constexpr std::size_t blockSize = 64;
+constexpr std::size_t wordSize = sizeof(std::uint64_t);
+constexpr std::uint64_t everyByte = 0x0101010101010101;
 
-// Of a fixed length and without an early exit, so that the compiler tests many bytes at once.
-bool blockHasSyntax(const char* block, char another) noexcept {
+// The same on every machine: the first byte is the lowest. Compilers make one load of it.
+std::uint64_t wordAt(const char* at) noexcept {
+    const auto byte = [at](int index) {
+        return std::uint64_t{static_cast<unsigned char>(at[index])} << 8 * index;
+    };
+    return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
+}
+
+// Has the highest bit of the lowest byte that is `mark`, and none below it; what is above doesn't
+// count. After "Determine if a word has a byte equal to n" of Sean Anderson's Bit Twiddling Hacks.
+constexpr std::uint64_t marked(std::uint64_t word, char mark) noexcept {
+    const std::uint64_t differing = word ^ everyByte * static_cast<unsigned char>(mark);
+    return (differing - everyByte) & ~differing & everyByte << 7;
+}
+
+constexpr std::uint64_t markedSyntax(std::uint64_t word, char another) noexcept {
+    return marked(word, quote) | marked(word, '{') | marked(word, '}') | marked(word, another);
+}
+
+// The number of bytes below the lowest bit that is set.
+std::size_t bytesBelow(std::uint64_t bits) noexcept {
+#if defined(__GNUC__)
+    return static_cast<std::size_t>(__builtin_ctzll(bits)) / 8;
+#else
+    const std::uint64_t lowest = bits >> 7;
+    return ((lowest - 1) & ~lowest & everyByte) * everyByte >> 56;
+#endif
+}
+
+// Of a fixed length and without an early exit, so that the compiler tests many bytes at once. Every
+// brace is above "z", and hardly anything else is.
+bool blockMayHaveSyntax(const char* block, char another) noexcept {
     unsigned char found = 0;
     for (std::size_t i = 0; i < blockSize; ++i) {
-        const char c = block[i];
-        const bool isSyntax = (c == quote) | (c == '{') | (c == '}') | (c == another);
-        found |= static_cast<unsigned char>(isSyntax);
+        const auto c = static_cast<signed char>(block[i]);
+        found |= static_cast<unsigned char>((c == quote) | (c > 'z') | (c == another));
     }
     return found != 0;
 }
 
-constexpr std::array<bool, 256> quotesAndBraces() noexcept {
-    std::array<bool, 256> marks{};
-    for (const char c : {quote, '{', '}'}) {
-        marks[static_cast<unsigned char>(c)] = true;
-    }
-    return marks;
-}
-
 const char* findByBytes(const char* at, const char* end, char another) noexcept {
-    static constexpr std::array<bool, 256> marks = quotesAndBraces();
-    while (at != end && !marks[static_cast<unsigned char>(*at)] && *at != another) {
+    while (at != end && *at != quote && *at != '{' && *at != '}' && *at != another) {
         ++at;
     }
     return at;
+}
+
+// Returns the first syntax in whole words of [at, end), or where what is left is no whole word.
+const char* findByWords(const char* at, const char* end, char another) noexcept {
+    for (; end - at >= static_cast<std::ptrdiff_t>(wordSize); at += wordSize) {
+        if (const std::uint64_t bits = markedSyntax(wordAt(at), another)) {
+            return at + bytesBelow(bits);
+        }
+    }
+    return findByBytes(at, end, another);
+}
+
+// Its constants take time to load, which short texts must not pay for by inlining.
+[[gnu::noinline]] const char* findByBlocks(const char* at, const char* end, char another) noexcept {
+    while (at != end) {
+        const char* const next = at + std::min<std::ptrdiff_t>(blockSize, end - at);
+        const bool isWhole = next - at == static_cast<std::ptrdiff_t>(blockSize);
+        if (!isWhole || blockMayHaveSyntax(at, another)) {
+            if (const char* found = findByWords(at, next, another); found != next) {
+                return found;
+            }
+        }
+        at = next;
+    }
+    return end;
 }
 
 } // namespace
 
 // Most texts between two marks are short, so blocks are worth their while only behind some bytes.
 std::size_t findSyntax(std::string_view text, std::size_t position, char another) noexcept {
-    constexpr std::ptrdiff_t shortText = 24;
-    const char* const end = text.data() + text.size();
+    constexpr std::ptrdiff_t shortText = 32;
     const char* const begin = text.data() + position;
+    const char* const end = text.data() + text.size();
     const char* const soon = begin + std::min(shortText, end - begin);
-    const char* at = findByBytes(begin, soon, another);
-    if (at == soon) {
-        while (end - at >= static_cast<std::ptrdiff_t>(blockSize) && !blockHasSyntax(at, another)) {
-            at += blockSize;
-        }
-        at = findByBytes(at, end, another);
+    const char* at = findByWords(begin, soon, another);
+    if (at == soon && soon != end) {
+        at = findByBlocks(soon, end, another);
     }
     return static_cast<std::size_t>(at - text.data());
 }

@@ -4,8 +4,10 @@
 #include "message/MessageRenderer.h"
 #include "platform/MessageTables.h"
 
-#include <boost/algorithm/string/replace.hpp>
+#include <boost/container/small_vector.hpp>
 
+#include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 namespace zem::msglib {
@@ -41,20 +43,34 @@ TableText fetchText(platform::HMODULE module, unsigned int messageId) {
     return text;
 }
 
-int convert(const TableText& text, char* output, int size) {
-    const int length = platform::WideCharToMultiByte(platform::CP_UTF8, 0, text.units.get(),
-                                                     text.count, output, size, nullptr, nullptr);
+using Utf8Text = boost::container::small_vector<char, 1024>;
+
+// Converts in one pass, into room for the most bytes that the units can make.
+Utf8Text toUtf8(const TableText& text) {
+    constexpr std::size_t mostBytesPerUnit = 3;
+    constexpr std::size_t mostBytes = std::numeric_limits<int>::max();
+    const std::size_t room =
+        std::min(static_cast<std::size_t>(text.count) * mostBytesPerUnit, mostBytes);
+    Utf8Text bytes(room, boost::container::default_init);
+    const int length =
+        platform::WideCharToMultiByte(platform::CP_UTF8, 0, text.units.get(), text.count,
+                                      bytes.data(), static_cast<int>(room), nullptr, nullptr);
     if (length == 0) {
         raise(Failure::UnconvertibleMessage);
     }
-    return length;
+    bytes.resize(static_cast<std::size_t>(length));
+    return bytes;
 }
 
-std::string toUtf8(const TableText& text) {
-    const int length = convert(text, nullptr, 0);
-    std::string bytes(static_cast<std::size_t>(length), '\0');
-    convert(text, bytes.data(), length);
-    return bytes;
+// Makes one byte of each line end of two.
+void shortenLineEnds(Utf8Text& text) {
+    auto kept = std::find(text.begin(), text.end(), '\r');
+    for (auto at = kept; at != text.end(); ++at) {
+        if (*at != '\r' || at + 1 == text.end() || at[1] != '\n') {
+            *kept++ = *at;
+        }
+    }
+    text.erase(kept, text.end());
 }
 
 } // namespace
@@ -94,9 +110,9 @@ std::string MessageLibrary::formatMessage(unsigned int messageId,
         raise(Failure::InvalidMessageId);
     }
     try {
-        std::string pattern = toUtf8(fetchText(facility->second, messageId));
-        boost::algorithm::replace_all(pattern, "\r\n", "\n");
-        return renderPattern(pattern, args);
+        Utf8Text pattern = toUtf8(fetchText(facility->second, messageId));
+        shortenLineEnds(pattern);
+        return renderPattern({pattern.data(), pattern.size()}, args);
     } catch (const std::runtime_error& failure) {
         return failure.what();
     }

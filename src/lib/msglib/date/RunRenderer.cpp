@@ -3,7 +3,6 @@
 #include "platform/LastError.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace zem::msglib {
 
@@ -16,13 +15,19 @@ void RunRenderer::append(PictureOperation operation, char letter, std::size_t le
         written = write(operation, picture, buffer(), size());
     }
     if (written != 0) {
-        out.append(buffer(), ::strnlen(buffer(), static_cast<std::size_t>(written)));
+        const char* const text = buffer();
+        const auto end = std::find(text, text + written, '\0');
+        out.append(text, static_cast<std::size_t>(end - text));
     }
 }
 
 const char* RunRenderer::pictureOf(char letter, std::size_t length) {
     if (length < sizeof shortPicture_) {
-        *std::fill_n(shortPicture_, length, letter) = '\0';
+        char* end = shortPicture_;
+        for (; length > 0; --length) {
+            *end++ = letter;
+        }
+        *end = '\0';
         return shortPicture_;
     }
     return longPicture_.assign(length, letter).c_str();

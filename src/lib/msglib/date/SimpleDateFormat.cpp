@@ -11,7 +11,7 @@ namespace zem::msglib {
 
 namespace {
 
-bool contains(const std::string& letters, char c) noexcept {
+constexpr bool contains(std::string_view letters, char c) noexcept {
     for (const char letter : letters) {
         if (letter == c) {
             return true;
@@ -39,9 +39,6 @@ std::size_t appendQuoted(std::string_view pattern, std::size_t pos, std::string&
 }
 
 } // namespace
-
-const std::string SimpleDateFormat::datePatternChars_("dMyg");
-const std::string SimpleDateFormat::timePatternChars_("hHmst");
 
 SimpleDateFormat::SimpleDateFormat(const std::string& pattern, const std::locale& locale)
     : pattern_(pattern),

@@ -1,7 +1,7 @@
 #include "base/Extraction.h"
 #include "base/Failure.h"
 #include "message/FormatElement.h"
-#include "message/StaticText.h"
+#include "message/PatternText.h"
 #include "msglib/MessageFormat.h"
 
 #include <utility>
@@ -35,32 +35,8 @@ std::size_t MessageFormat::parseStatic(const std::string& pattern, std::size_t p
 std::size_t MessageFormat::parsePatternElement(const std::string& pattern, std::size_t position,
                                                std::string& text, char endByte) const {
     text.clear();
-    std::size_t depth = 1;
-    std::size_t copied = position; // what stands in front of it needs no more care
-    while ((position = findSyntax(pattern, position, endByte)) < pattern.size()) {
-        const char c = pattern[position];
-        if (c == quote && holdsAt(pattern, position + 2, quote)) {
-            position += 3;
-            continue;
-        }
-        if (c == quote && holdsAt(pattern, position + 1, quote)) {
-            text.append(pattern, copied, position + 1 - copied);
-            position += 2;
-            copied = position;
-            continue;
-        }
-        if (c == '{') {
-            ++depth;
-        } else if (c == '}') {
-            --depth;
-        }
-        if (depth == 0 || (c == endByte && c != '}')) {
-            break;
-        }
-        ++position;
-    }
-    text.append(pattern, copied, position - copied);
-    return position;
+    return scanElement(pattern, position, endByte,
+                       [&text](std::string_view piece) { text += piece; });
 }
 
 // Plain digits, by far the most frequent index, are read where they stand.

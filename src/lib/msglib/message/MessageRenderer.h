@@ -1,13 +1,10 @@
 #pragma once
 
+#include "message/ArgumentCursor.h"
 #include "message/FormatElement.h"
-#include "message/PlainPattern.h"
-#include "msglib/DateFormat.h"
-#include "msglib/NumberFormat.h"
 
 #include <boost/any.hpp>
 
-#include <cstddef>
 #include <list>
 #include <locale>
 #include <string>
@@ -23,32 +20,26 @@ class MessageRenderer {
 public:
     MessageRenderer(const std::list<boost::any>& args, const std::locale& locale, std::string& out)
         : args_(args),
-          argument_(args.begin()),
+          arguments_(args),
           locale_(locale),
           out_(out) {}
 
     /// Appends `message` with the arguments; fails as `MessageFormat::format` does.
     void render(const MessageFormat& message);
 
-    /// Appends the message of `pattern`, compiled for this rendering only.
-    void render(std::string_view pattern);
-
 private:
-    void renderPlain(const PlainPattern& pattern);
     void renderPending();
     void renderElement(const FormatElement& element);
-    void renderByStyle(PlaceholderStyle style, const boost::any& argument);
-    void renderByKind(const boost::any& argument);
-    void appendNumber(NumberFormat::FormatType type, const boost::any& argument);
-    void appendDate(DateFormat::Style style, const boost::any& argument);
     void expandChoice(const FormatElement& element, const boost::any& argument);
-    const boost::any& argumentAt(int index);
 
     const std::list<boost::any>& args_;
-    std::list<boost::any>::const_iterator argument_;
-    std::size_t position_ = 0; // of argument_ in args_
+    ArgumentCursor arguments_;
     const std::locale& locale_;
     std::string& out_;
+
+    // Until a choice turns out to need compiled forms; then those inside it are not tried first,
+    // which would read deep nesting many times.
+    bool rendersDirectly_ = true;
 
     // What a choice has brought up and is still to be rendered, so that no nesting uses the machine
     // stack.

@@ -36,18 +36,12 @@ public:
         first_ = last_ = begin + before;
     }
 
-    void pushFront(char c) noexcept { *--first_ = c; }
-    void pushFront(std::string_view text) noexcept {
-        first_ = std::copy_backward(text.begin(), text.end(), first_);
-    }
-
-    void pushBack(char c) noexcept { *last_++ = c; }
-    void pushBack(std::string_view text) noexcept {
-        last_ = std::copy(text.begin(), text.end(), last_);
-    }
-
+    char* front() noexcept { return first_; }
     char* back() noexcept { return last_; }
-    void truncate(char* back) noexcept { last_ = back; }
+    void growTo(char* front, char* back) noexcept {
+        first_ = front;
+        last_ = back;
+    }
 
     void appendTo(std::string& out) const {
         out.append(first_, static_cast<std::size_t>(last_ - first_));
@@ -95,72 +89,92 @@ private:
     double rest_;
 };
 
-// Writes digits from the units upward, with group separators between them.
-class IntegerWriter {
+// The digits of a whole number from the units upward.
+class ExactWhole {
 public:
-    IntegerWriter(const DigitLayout& layout, DigitRoom& room) noexcept
-        : layout_(layout),
-          room_(room),
-          leftInGroup_(layout.groupSize) {}
+    explicit ExactWhole(std::uint64_t whole) noexcept : rest_(whole) {}
 
-    void write(double whole) noexcept {
-        for (; whole >= exactIntegers && !isFull(); whole = std::floor(whole / 10.0)) {
-            push(static_cast<char>(std::fmod(whole, 10.0)));
-        }
-        if (whole < exactIntegers) {
-            write(static_cast<std::uint64_t>(whole));
-        }
-    }
-
-    void write(std::uint64_t whole) noexcept {
-        for (; whole > 0 && !isFull(); whole /= 10) {
-            push(static_cast<char>(whole % 10));
-        }
-        while (count_ < layout_.minimumIntegerDigits && !isFull()) {
-            push(0);
-        }
+    bool isZero() const noexcept { return rest_ == 0; }
+    char nextDigit() noexcept {
+        const auto digit = static_cast<char>(rest_ % 10);
+        rest_ /= 10;
+        return digit;
     }
 
 private:
-    bool isFull() const noexcept { return count_ >= layout_.maximumIntegerDigits; }
+    std::uint64_t rest_;
+};
 
-    void push(char digit) noexcept {
-        if (leftInGroup_ == 0 && count_ > 0 && layout_.groupSize > 0) {
-            room_.pushFront(layout_.groupingSeparator);
-            leftInGroup_ = layout_.groupSize;
+// The same for a number that may be beyond `exactIntegers`, where each step may round.
+class AnyWhole {
+public:
+    explicit AnyWhole(double whole) noexcept : rest_(whole), exactRest_(0) {}
+
+    bool isZero() const noexcept { return rest_ == 0.0 && exactRest_.isZero(); }
+    char nextDigit() noexcept {
+        if (rest_ == 0.0) {
+            return exactRest_.nextDigit();
         }
-        room_.pushFront(static_cast<char>(layout_.zeroDigit + digit));
-        --leftInGroup_;
-        ++count_;
+        const bool fits = rest_ < 0x1p63;
+        const auto digit = fits ? static_cast<char>(static_cast<std::int64_t>(rest_) % 10)
+                                : static_cast<char>(std::fmod(rest_, 10.0));
+        rest_ = std::floor(rest_ / 10.0);
+        if (rest_ < exactIntegers) {
+            exactRest_ = ExactWhole(static_cast<std::uint64_t>(rest_));
+            rest_ = 0.0;
+        }
+        return digit;
     }
 
-    const DigitLayout& layout_;
-    DigitRoom& room_;
-    std::size_t leftInGroup_;
-    std::size_t count_ = 0;
+private:
+    double rest_; // 0 from where the other is used
+    ExactWhole exactRest_;
 };
+
+// Writes digits from the units upward, with group separators between them, and on to the minimum.
+// What is read in each step is in locals, since the bytes written might be anything's.
+template <class Whole>
+char* writeInteger(Whole whole, const DigitLayout& layout, char* front) noexcept {
+    const std::size_t most = layout.maximumIntegerDigits;
+    const std::size_t least = std::min(layout.minimumIntegerDigits, most);
+    const std::string_view separator = layout.groupingSeparator;
+    const std::size_t group = layout.groupSize > 0 ? layout.groupSize : most;
+    const char zero = layout.zeroDigit;
+    std::size_t leftInGroup = group;
+    for (std::size_t count = 0; count < least || (count < most && !whole.isZero()); ++count) {
+        if (leftInGroup == 0) {
+            for (std::size_t i = separator.size(); i > 0; --i) {
+                *--front = separator[i - 1];
+            }
+            leftInGroup = group;
+        }
+        *--front = static_cast<char>(zero + whole.nextDigit());
+        --leftInGroup;
+    }
+    return front;
+}
 
 // Digits up to the last one that isn't zero, and on to the minimum. Without any there is no
 // separator either.
 template <class Fraction>
-void writeFraction(Fraction fraction, const DigitLayout& layout, DigitRoom& room) noexcept {
-    char* const point = room.back();
-    room.pushBack(layout.decimalSeparator);
-    char* const first = room.back();
-    const std::size_t least = std::min(layout.minimumFractionDigits, layout.maximumFractionDigits);
-    char* significant = least > 0 ? first : point;
+char* writeFraction(Fraction fraction, const DigitLayout& layout, char* const point) noexcept {
+    const std::size_t most = layout.maximumFractionDigits;
+    const std::size_t least = std::min(layout.minimumFractionDigits, most);
+    const char zero = layout.zeroDigit;
+    char* back = point;
+    for (const char c : layout.decimalSeparator) {
+        *back++ = c;
+    }
+    char* significant = least > 0 ? back : point;
     std::size_t count = 0;
-    for (; count < layout.maximumFractionDigits && !fraction.isZero(); ++count) {
+    for (; count < most && !fraction.isZero(); ++count) {
         const char digit = fraction.nextDigit();
-        room.pushBack(static_cast<char>(layout.zeroDigit + digit));
+        *back++ = static_cast<char>(zero + digit);
         if (digit != 0 || count < least) {
-            significant = room.back();
+            significant = back;
         }
     }
-    room.truncate(significant);
-    for (; count < least; ++count) {
-        room.pushBack(layout.zeroDigit);
-    }
+    return count < least ? std::fill_n(significant, least - count, zero) : significant;
 }
 
 std::size_t roomBefore(std::size_t digits, const DigitLayout& layout) {
@@ -187,28 +201,27 @@ double roundingOf(int maximumFractionDigits) noexcept {
 void appendDigits(double x, const DigitLayout& layout, std::string& out) {
     if (x >= exactIntegers) {
         DigitRoom room(roomBefore(mostIntegerDigits, layout), roomBehind(0, layout));
-        IntegerWriter(layout, room).write(x);
-        writeFraction(AnyFraction(0.0), layout, room);
+        room.growTo(writeInteger(AnyWhole(x), layout, room.front()),
+                    writeFraction(AnyFraction(0.0), layout, room.back()));
         room.appendTo(out);
         return;
     }
-    const auto whole = static_cast<std::uint64_t>(x);
+    const auto whole = static_cast<std::int64_t>(x);
     const double fraction = x - static_cast<double>(whole);
     DigitRoom room(roomBefore(mostDigitsOf64Bits, layout), roomBehind(mostFractionDigits, layout));
-    IntegerWriter(layout, room).write(whole);
+    char* const front =
+        writeInteger(ExactWhole(static_cast<std::uint64_t>(whole)), layout, room.front());
     // From 4 on the last bit of x is worth 2 to the power -50 or more.
-    if (whole >= 4) {
-        writeFraction(ExactFraction(fraction), layout, room);
-    } else {
-        writeFraction(AnyFraction(fraction), layout, room);
-    }
+    char* const back = whole >= 4 ? writeFraction(ExactFraction(fraction), layout, room.back())
+                                  : writeFraction(AnyFraction(fraction), layout, room.back());
+    room.growTo(front, back);
     room.appendTo(out);
 }
 
 void appendDigits(std::uint64_t whole, const DigitLayout& layout, std::string& out) {
     DigitRoom room(roomBefore(mostDigitsOf64Bits, layout), roomBehind(0, layout));
-    IntegerWriter(layout, room).write(whole);
-    writeFraction(AnyFraction(0.0), layout, room);
+    room.growTo(writeInteger(ExactWhole(whole), layout, room.front()),
+                writeFraction(AnyFraction(0.0), layout, room.back()));
     room.appendTo(out);
 }
 

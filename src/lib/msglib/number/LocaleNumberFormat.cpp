@@ -31,20 +31,29 @@ std::shared_ptr<DecimalFormat> LocaleNumberFormat::makeSharedRounded(const std::
     return number;
 }
 
-void LocaleNumberFormat::append(const boost::any& argument, const std::locale& locale,
-                                NumberFormat::FormatType type, std::string& out) {
+// A formatter that is used once takes the classic locale: none has a part in the text, and this one
+// needs no lock.
+void LocaleNumberFormat::append(NumberFormat::FormatType type, const boost::any& argument,
+                                std::string& out) {
     const double value = readNumber(argument);
     if (!appendPlainLocaleNumber(value, type, out)) {
-        make(locale, type, fallbackOf(type)).format(value, out);
+        make(std::locale::classic(), type, fallbackOf(type)).format(value, out);
     }
 }
 
-void LocaleNumberFormat::appendRounded(const boost::any& argument, const std::locale& locale,
-                                       std::string& out) {
+void LocaleNumberFormat::appendRounded(const boost::any& argument, std::string& out) {
     const double value = readNumber(argument);
     if (!appendPlainLocaleNumber(value, NumberFormat::Integer, out)) {
-        makeSharedRounded(locale)->format(value, out);
+        makeSharedRounded(std::locale::classic())->format(value, out);
     }
+}
+
+void LocaleNumberFormat::append(std::string_view pattern, const boost::any& argument,
+                                std::string& out) {
+    DecimalFormat number =
+        make(std::locale::classic(), NumberFormat::Number, fallbackOf(NumberFormat::Number));
+    number.applyPattern(std::string(pattern));
+    number.format(readNumber(argument), out);
 }
 
 std::string LocaleNumberFormat::patternOf(const std::locale& locale, NumberFormat::FormatType type,

@@ -8,6 +8,7 @@
 #include <locale>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
 
@@ -32,12 +33,15 @@ public:
     /// only where it has to.
     ///
     /// @throws what `NumberFormat::format` throws for the argument
-    static void append(const boost::any& argument, const std::locale& locale,
-                       NumberFormat::FormatType type, std::string& out);
+    static void append(NumberFormat::FormatType type, const boost::any& argument, std::string& out);
 
     /// The same as the formatter of `makeSharedRounded`.
-    static void appendRounded(const boost::any& argument, const std::locale& locale,
-                              std::string& out);
+    static void appendRounded(const boost::any& argument, std::string& out);
+
+    /// The same as the formatter for plain numbers with `pattern` applied to it.
+    ///
+    /// @throws std::runtime_error as `DecimalFormat::applyPattern` does
+    static void append(std::string_view pattern, const boost::any& argument, std::string& out);
 
     /// Returns the pattern of the public factory of `type` for a platform that doesn't know the
     /// locale.

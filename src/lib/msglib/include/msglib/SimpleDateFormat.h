@@ -51,12 +51,12 @@ public:
     std::string& format(const boost::any& value, std::string& out) const override;
 
 private:
-    friend class MessageRenderer;
+    friend class PlaceholderRenderer;
 
     static void render(std::string_view pattern, const boost::any& value, std::string& out);
 
-    static const std::string datePatternChars_;
-    static const std::string timePatternChars_;
+    static constexpr std::string_view datePatternChars_ = "dMyg";
+    static constexpr std::string_view timePatternChars_ = "hHmst";
 
     std::string pattern_;
     std::locale locale_;

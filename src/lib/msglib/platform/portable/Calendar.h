@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Gregorian calendar arithmetic without a loop, by Howard Hinnant's chrono-Compatible low-level
+/// Gregorian calendar arithmetic without a loop, after Howard Hinnant's chrono-Compatible low-level
 /// date algorithms.
 ///
-/// They count years from March, so that the leap day is the last of its year, in eras of 400 years.
+/// It counts years from March, so that the leap day is the last of its year, in eras of 400 years.
 /// The first era here begins on 1600-03-01, 306 days before day 0, and nothing is ever negative.
 namespace zem::msglib::platform {
 
@@ -51,17 +51,21 @@ constexpr std::uint32_t daysOfDate(const CalendarDate& date) noexcept {
     return year / eraYears * eraDays + dayOfEra - eraStartToDayZero;
 }
 
-/// Returns the date that lies `days` days, at most four billion, behind 1601-01-01.
+/// Returns the date that lies `days` days, at most a billion, behind 1601-01-01.
+///
+/// Where the divisor is a fixed number of quarters of a day, one multiplication gives quotient and
+/// remainder; by "Euclidean affine functions and their application to calendar algorithms" of
+/// Cassio Neri and Lorenz Schneider.
 constexpr CalendarDate dateOfDays(std::uint32_t days) noexcept {
-    const std::uint32_t sinceEraStart = days + eraStartToDayZero;
-    const std::uint32_t dayOfEra = sinceEraStart % eraDays;
-    const std::uint32_t yearOfEra =
-        (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-    const std::uint32_t dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const std::uint32_t month = (5 * dayOfYear + 2) / 153;
-    const bool beforeMarch = month >= 10;
-    return {eraStartYear + sinceEraStart / eraDays * eraYears + yearOfEra + (beforeMarch ? 1 : 0),
-            beforeMarch ? month - 9 : month + 3, dayOfYear - (153 * month + 2) / 5 + 1};
+    const std::uint32_t quarters = 4 * (days + eraStartToDayZero) + 3;
+    const std::uint32_t century = quarters / eraDays;
+    const std::uint64_t yearOfCentury = std::uint64_t{2939745} * (quarters % eraDays | 3);
+    const std::uint32_t dayOfYear = static_cast<std::uint32_t>(yearOfCentury) / 2939745 / 4;
+    const std::uint32_t month = 2141 * dayOfYear + 197913;
+    const bool beforeMarch = dayOfYear >= 306;
+    return {eraStartYear + 100 * century + static_cast<std::uint32_t>(yearOfCentury >> 32) +
+                (beforeMarch ? 1 : 0),
+            (month >> 16) - (beforeMarch ? 12 : 0), (month & 0xFFFF) / 2141 + 1};
 }
 
 /// Returns the week day of the day `days` behind 1601-01-01, which was a Monday; Sunday is 0.

@@ -79,35 +79,37 @@ bool appendTimeField(const SYSTEMTIME& time, char letter, std::size_t runLength,
 
 using AppendField = bool (*)(const SYSTEMTIME&, char, std::size_t, TextBuffer&) noexcept;
 
-/// Appends the quoted text that begins at `at` and returns what follows it. A doubled quote is a
-/// quote, and without a closing one the text goes to the end.
-std::string_view appendQuoted(std::string_view at, TextBuffer& out) noexcept {
-    for (;;) {
-        const std::size_t length = std::min(at.find('\''), at.size());
-        out.append(at.substr(0, length));
-        at.remove_prefix(std::min(length + 1, at.size()));
-        if (at.empty() || at.front() != '\'') {
-            return at;
+/// Appends the quoted text from `at` on and returns what follows it. A doubled quote is a quote,
+/// and without a closing one the text goes to the end.
+const char* appendQuoted(const char* at, TextBuffer& out) noexcept {
+    for (; *at != '\0'; ++at) {
+        if (*at == '\'' && *++at != '\'') {
+            break;
         }
-        out.append('\'');
-        at.remove_prefix(1);
+        out.append(*at);
     }
+    return at;
 }
 
-int writePicture(const SYSTEMTIME& time, std::string_view picture, AppendField appendField,
-                 char* buffer, int size) noexcept {
+// Pictures are short and fresh in memory, so no library function looks for their end.
+int writePicture(const SYSTEMTIME& time, const char* picture, AppendField appendField, char* buffer,
+                 int size) noexcept {
     TextBuffer out(buffer, size);
-    while (!picture.empty()) {
-        const char letter = picture.front();
+    while (*picture != '\0') {
+        const char letter = *picture;
         if (letter == '\'') {
-            picture = appendQuoted(picture.substr(1), out);
+            picture = appendQuoted(picture + 1, out);
             continue;
         }
-        const std::size_t length = std::min(picture.find_first_not_of(letter), picture.size());
-        if (!appendField(time, letter, length, out)) {
-            out.append(picture.substr(0, length));
+        const char* end = picture + 1;
+        while (*end == letter) {
+            ++end;
         }
-        picture.remove_prefix(length);
+        const auto length = static_cast<std::size_t>(end - picture);
+        if (!appendField(time, letter, length, out)) {
+            out.append(std::string_view(picture, length));
+        }
+        picture = end;
     }
     return out.finish();
 }

@@ -39,7 +39,7 @@ std::optional<MessageText> findInTable(Bytes descriptor, std::uint32_t languageI
 std::optional<MessageText> findInNotes(Bytes notes, std::size_t alignment, std::uint32_t languageId,
                                        std::uint32_t messageId) noexcept {
     const std::uint64_t unit = alignment == 8 ? 8 : 4;
-    const auto aligned = [unit](std::uint64_t offset) { return (offset + unit - 1) / unit * unit; };
+    const auto aligned = [unit](std::uint64_t offset) { return (offset + unit - 1) & ~(unit - 1); };
     // 64 bits, so that two lengths of 32 bits cannot wrap on any machine.
     std::uint64_t offset = 0;
     while (offset < notes.size()) {

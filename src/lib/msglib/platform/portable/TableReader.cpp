@@ -1,6 +1,9 @@
 #include "platform/portable/TableReader.h"
 
+#include <boost/endian/conversion.hpp>
+
 #include <algorithm>
+#include <cstring>
 
 namespace zem::msglib::platform {
 
@@ -12,21 +15,36 @@ constexpr std::size_t entryHeaderSize = 4;
 
 constexpr std::uint16_t utf16Flag = 1;
 
+/// Tells whether one of the four units from `at` on is NUL, in either byte order. After "Determine
+/// if a word has a zero byte" of Sean Anderson's Bit Twiddling Hacks.
+bool hasNulUnit(const unsigned char* at) noexcept {
+    constexpr std::uint64_t everyUnit = 0x0001000100010001;
+    std::uint64_t units = 0;
+    std::memcpy(&units, at, sizeof units);
+    return ((units - everyUnit) & ~units & everyUnit << 15) != 0;
+}
+
 } // namespace
 
 MessageText::MessageText(Bytes bytes, std::size_t unitBytes) noexcept
     : bytes_(bytes),
       unitBytes_(unitBytes) {
     const std::size_t limit = bytes.size() / unitBytes;
+    while (unitBytes == 2 && limit - length_ >= 4 && !hasNulUnit(bytes.data() + length_ * 2)) {
+        length_ += 4;
+    }
     while (length_ < limit && unitAt(length_) != 0) {
         ++length_;
     }
 }
 
 void MessageText::copyTo(char16_t* units) const noexcept {
-    for (std::size_t index = 0; index < length_; ++index) {
-        units[index] = unitAt(index);
+    if (unitBytes_ == 1) {
+        std::copy_n(bytes_.data(), length_, units);
+        return;
     }
+    std::memcpy(units, bytes_.data(), length_ * sizeof *units);
+    std::for_each(units, units + length_, boost::endian::little_to_native_inplace<char16_t>);
 }
 
 std::optional<MessageText> TableReader::find(std::uint32_t messageId) const noexcept {
@@ -39,20 +57,19 @@ std::optional<MessageText> TableReader::find(std::uint32_t messageId) const noex
 }
 
 /// Returns the offset of the first block that ends at or behind `messageId`; the table's size if
-/// none does.
+/// none does. The search halves without a branch that could be guessed wrong.
 std::size_t TableReader::blockFor(std::uint32_t messageId) const noexcept {
     const std::size_t room =
         table_.holds(0, countSize) ? (table_.size() - countSize) / blockSize : 0;
     const std::size_t blocks = std::min<std::size_t>(table_.u32(0), room);
+    const auto endsBefore = [this, messageId](std::size_t block) {
+        return table_.u32(countSize + block * blockSize + 4) < messageId;
+    };
     std::size_t first = 0;
-    std::size_t last = blocks;
-    while (first < last) {
-        const std::size_t middle = first + (last - first) / 2;
-        if (table_.u32(countSize + middle * blockSize + 4) < messageId) {
-            first = middle + 1;
-        } else {
-            last = middle;
-        }
+    for (std::size_t count = blocks; count > 0;) {
+        const std::size_t half = (count + 1) / 2;
+        first += endsBefore(first + half - 1) ? half : 0;
+        count -= half;
     }
     return first < blocks ? countSize + first * blockSize : table_.size();
 }

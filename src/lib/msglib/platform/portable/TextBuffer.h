@@ -2,7 +2,6 @@
 
 #include "platform/portable/LastError.h"
 
-#include <charconv>
 #include <cstddef>
 #include <iterator>
 #include <limits>
@@ -35,20 +34,27 @@ public:
     }
 
     void append(std::string_view text) noexcept {
-        for (const char byte : text) {
-            append(byte);
+        const std::size_t room = length_ < size_ ? size_ - length_ : 0;
+        char* at = buffer_ + length_;
+        for (const char byte : text.substr(0, room)) {
+            *at++ = byte;
         }
+        length_ += text.size();
     }
 
     /// Appends `number` in decimal, with leading zeros up to `width` digits.
     void append(unsigned int number, std::size_t width) noexcept {
         char digits[std::numeric_limits<unsigned int>::digits10 + 1];
-        const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
-        const auto count = static_cast<std::size_t>(end - digits);
-        for (std::size_t zeros = count; zeros < width; ++zeros) {
+        char* const end = std::end(digits);
+        char* first = end;
+        do {
+            *--first = static_cast<char>('0' + number % 10);
+            number /= 10;
+        } while (number != 0);
+        for (auto count = static_cast<std::size_t>(end - first); count < width; ++count) {
             append('0');
         }
-        append(std::string_view(digits, count));
+        append(std::string_view(first, static_cast<std::size_t>(end - first)));
     }
 
     /// Appends the terminator and returns the length with it; 0 for a buffer that was too short

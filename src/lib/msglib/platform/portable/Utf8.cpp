@@ -1,6 +1,7 @@
 #include "platform/MessageTables.h"
 #include "platform/portable/LastError.h"
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstddef>
@@ -28,6 +29,18 @@ char32_t nextCodePoint(const char16_t*& text, const char16_t* end) noexcept {
     return isHighSurrogate(unit) || isLowSurrogate(unit) ? replacementCharacter : unit;
 }
 
+constexpr std::size_t blockSize = 8;
+
+/// Tells whether each unit of a block is one byte. It has no early exit, so that the compiler tests
+/// all of them at once.
+bool isAscii(const char16_t* block) noexcept {
+    unsigned int bits = 0;
+    for (std::size_t i = 0; i < blockSize; ++i) {
+        bits |= block[i];
+    }
+    return bits < 0x80;
+}
+
 /// The bytes of one code point.
 struct Sequence {
     std::array<char, 4> bytes;
@@ -53,6 +66,25 @@ Sequence encode(char32_t code) noexcept {
     return {{lead(0xF0, 18), trail(12), trail(6), trail(0)}, 4};
 }
 
+/// Takes units of one byte off the front of `text` and writes them, as long as there is room.
+/// Returns how many.
+std::size_t copyAscii(const char16_t*& text, const char16_t* end, char* output,
+                      std::size_t room) noexcept {
+    const std::size_t most = std::min(static_cast<std::size_t>(end - text), room);
+    std::size_t count = 0;
+    while (most - count >= blockSize && isAscii(text + count)) {
+        for (const std::size_t next = count + blockSize; count < next; ++count) {
+            output[count] = static_cast<char>(text[count]);
+        }
+    }
+    while (count < most && text[count] < 0x80) {
+        output[count] = static_cast<char>(text[count]);
+        ++count;
+    }
+    text += count;
+    return count;
+}
+
 } // namespace
 
 int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t, const char16_t* text, int count,
@@ -66,13 +98,11 @@ int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t, const char16_t* t
     const auto room = static_cast<std::size_t>(measuring ? INT_MAX : size);
     std::size_t written = 0;
     for (const char16_t* end = text + count; text != end;) {
-        if (*text < 0x80 && written < room) {
-            if (!measuring) {
-                output[written] = static_cast<char>(*text);
-            }
-            ++written;
-            ++text;
-            continue;
+        if (!measuring) {
+            written += copyAscii(text, end, output + written, room - written);
+        }
+        if (text == end) {
+            break;
         }
         const Sequence sequence = encode(nextCodePoint(text, end));
         if (sequence.size > room - written) {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "message/ArgumentCursor.h"
+
+#include <boost/any.hpp>
+
+#include <cstddef>
+#include <list>
+#include <string>
+#include <string_view>
+
+namespace zem::msglib {
+
+struct PlainPlaceholder;
+
+/// Renders a pattern as it is read, without a compiled form. It borrows the arguments and the
+/// string that it appends to.
+///
+/// What is out of the ordinary it leaves to `MessageRenderer`: quotes inside a placeholder, an
+/// index that is more than digits, deep nesting, and all that fails, since the first failure of a
+/// pattern counts only if all of it compiles.
+class DirectRenderer {
+public:
+    DirectRenderer(const std::list<boost::any>& args, std::string& out) noexcept
+        : arguments_(args),
+          out_(out) {}
+
+    /// Appends the message of `pattern`.
+    ///
+    /// @return false, with nothing appended, for a pattern or an argument to leave to
+    ///         `MessageRenderer`
+    bool render(std::string_view pattern);
+
+private:
+    bool renderMessage(std::string_view pattern);
+    std::size_t renderPlaceholder(std::string_view pattern, std::size_t position);
+    bool renderTyped(const PlainPlaceholder& placeholder, const boost::any& argument);
+    bool renderChoice(std::string_view style, const boost::any& argument);
+
+    ArgumentCursor arguments_;
+    std::string& out_;
+    int depth_ = 0; // of the choice that is being rendered
+};
+
+} // namespace zem::msglib

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "message/PlaceholderStyle.h"
+
+#include <boost/any.hpp>
+
+#include <string>
+#include <string_view>
+
+namespace zem::msglib {
+
+/// Appends arguments without formatters of their own, where they need none.
+class PlaceholderRenderer {
+public:
+    /// Appends `argument` as a placeholder without a type writes it.
+    ///
+    /// @throws as a formatter of the argument's kind does
+    static void appendByKind(const boost::any& argument, std::string& out);
+
+    /// Appends `argument` as the formatter would that `FormatElement::buildFormat` makes for
+    /// `placeholder`, any but a choice.
+    ///
+    /// @param style  the style as written
+    /// @throws as `buildFormat` and the formatter do
+    static void appendByStyle(PlaceholderStyle placeholder, std::string_view style,
+                              const boost::any& argument, std::string& out);
+};
+
+} // namespace zem::msglib

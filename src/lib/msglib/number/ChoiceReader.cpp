@@ -1,0 +1,58 @@
+#include "number/ChoiceReader.h"
+
+#include "base/Extraction.h"
+#include "base/Failure.h"
+#include "msglib/ChoiceFormat.h"
+
+#include <cmath>
+
+namespace zem::msglib {
+
+namespace {
+
+constexpr bool isSeparator(char c) noexcept {
+    return c == '#' || c == '<' || c == '+';
+}
+
+} // namespace
+
+double ChoiceReader::readLimit() {
+    const std::size_t begin = position_;
+    while (position_ < pattern_.size() && !isSeparator(pattern_[position_])) {
+        ++position_;
+    }
+    if (position_ >= pattern_.size()) {
+        raise(Failure::ChoiceSyntax);
+    }
+    const double limit = extractDouble(pattern_.substr(begin, position_ - begin));
+    return pattern_[position_++] == '#' ? limit : ChoiceFormat::nextDouble(limit);
+}
+
+bool ChoiceSearch::takes(double limit) noexcept {
+    if (!any_) {
+        any_ = true;
+        settled_ = std::isnan(value_) || value_ < limit;
+    } else if (settled_ || (value_ >= limit_ && limit > value_)) {
+        settled_ = true;
+        return false;
+    }
+    limit_ = limit;
+    return true;
+}
+
+std::optional<std::string_view> chooseText(std::string_view pattern, double value) {
+    ChoiceReader reader(pattern);
+    ChoiceSearch search(value);
+    SinglePiece chosen;
+    for (bool more = true; more;) {
+        const bool takes = search.takes(reader.readLimit());
+        SinglePiece text;
+        more = reader.readText(text);
+        if (takes) {
+            chosen = text;
+        }
+    }
+    return chosen.isWhole() ? std::optional(chosen.text()) : std::nullopt;
+}
+
+} // namespace zem::msglib

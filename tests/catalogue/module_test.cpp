@@ -1,3 +1,4 @@
+#include "MemoryTexts.h"
 #include "ProgramTexts.h"
 #include "message/Outcome.h"
 #include "msglib/MessageLibrary.h"
@@ -20,6 +21,7 @@ using namespace std::string_literals;
 TEST(Modules, ProgramCarriesItsTexts) {
     EXPECT_EQ(outcomeAtOnce(0x01AB0001U, {}), "!Invalid message ID");
     registerProgramTexts();
+    registerMemoryTexts();
     struct {
         int line;
         unsigned int messageId;
@@ -29,10 +31,11 @@ TEST(Modules, ProgramCarriesItsTexts) {
     } const rows[] = {
         {__LINE__, MSG_VALUE, "x"s, "Value x\n"},
         {__LINE__, MSG_UNEXPANDED, 0.5,
-         "%1 %n%r %% 50.00%\nZweite Zeile: \u00E4\u00F6\u00FC \u20AC \U0001D11E\n",
-         "%1 \n\r %% 50.00%\nZweite Zeile: \u00E4\u00F6\u00FC \u20AC \U0001D11E\n"},
+         "%1 %n%r %% 50.00%\n\nZweite Zeile: \u00E4\u00F6\u00FC \u20AC \U0001D11E\n",
+         "%1 \n\r %% 50.00%\n\nZweite Zeile: \u00E4\u00F6\u00FC \u20AC \U0001D11E\n"},
         {__LINE__, MSG_GERMAN_ONLY, 1, "Invalid message ID"},
         {__LINE__, MSG_WRONG, 1, unexpectedBrace},
+        {__LINE__, MSG_WRONG_PATTERN, 1, "zero mark following digit"},
         {__LINE__, MSG_VALUE + 100, 1, "Invalid message ID"},
         {__LINE__, MSG_VALUE | 0x80000000, 1, "Invalid message ID"},
     };

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <string>
+#include <utility>
 
 namespace zem::msglib::platform {
 namespace {
@@ -13,40 +13,25 @@ constexpr std::uint32_t unitedStates = 0x409;
 constexpr std::uint32_t nowhere = 0x3F7F;
 
 TEST(LocaleValues, WritesEveryValueForBothIdentifiers) {
-    struct {
-        int line;
-        std::uint32_t lctype;
-        const char* value;
-    } const rows[] = {
-        {__LINE__, LOCALE_SDECIMAL, "."},
-        {__LINE__, LOCALE_STHOUSAND, ","},
-        {__LINE__, LOCALE_SGROUPING, "3;0"},
-        {__LINE__, LOCALE_IDIGITS, "2"},
-        {__LINE__, LOCALE_ILZERO, "1"},
-        {__LINE__, LOCALE_SNATIVEDIGITS, "0123456789"},
-        {__LINE__, LOCALE_SCURRENCY, "$"},
-        {__LINE__, LOCALE_SINTLSYMBOL, "USD"},
-        {__LINE__, LOCALE_SMONDECIMALSEP, "."},
-        {__LINE__, LOCALE_SMONTHOUSANDSEP, ","},
-        {__LINE__, LOCALE_SMONGROUPING, "3;0"},
-        {__LINE__, LOCALE_ICURRDIGITS, "2"},
-        {__LINE__, LOCALE_ICURRENCY, "0"},
-        {__LINE__, LOCALE_INEGCURR, "0"},
-        {__LINE__, LOCALE_SSHORTDATE, "M/d/yyyy"},
-        {__LINE__, LOCALE_SLONGDATE, "dddd, MMMM d, yyyy"},
-        {__LINE__, LOCALE_ILDATE, "0"},
-        {__LINE__, LOCALE_SNEGATIVESIGN, "-"},
-        {__LINE__, LOCALE_STIMEFORMAT, "h:mm:ss tt"},
-        {__LINE__, LOCALE_INEGNUMBER, "1"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        const int length = static_cast<int>(std::strlen(row.value)) + 1;
+    const std::pair<std::uint32_t, const char*> values[] = {
+        {LOCALE_SDECIMAL, "."},       {LOCALE_STHOUSAND, ","},
+        {LOCALE_SGROUPING, "3;0"},    {LOCALE_SNATIVEDIGITS, "0123456789"},
+        {LOCALE_IDIGITS, "2"},        {LOCALE_SCURRENCY, "$"},
+        {LOCALE_ILZERO, "1"},         {LOCALE_SINTLSYMBOL, "USD"},
+        {LOCALE_SMONDECIMALSEP, "."}, {LOCALE_SMONTHOUSANDSEP, ","},
+        {LOCALE_SMONGROUPING, "3;0"}, {LOCALE_SSHORTDATE, "M/d/yyyy"},
+        {LOCALE_ICURRDIGITS, "2"},    {LOCALE_SLONGDATE, "dddd, MMMM d, yyyy"},
+        {LOCALE_ICURRENCY, "0"},      {LOCALE_STIMEFORMAT, "h:mm:ss tt"},
+        {LOCALE_INEGCURR, "0"},       {LOCALE_ILDATE, "0"},
+        {LOCALE_INEGNUMBER, "1"},     {LOCALE_SNEGATIVESIGN, "-"}};
+    for (const auto& [lctype, value] : values) {
+        SCOPED_TRACE(lctype);
+        const int length = static_cast<int>(std::strlen(value)) + 1;
         for (const std::uint32_t locale : {localeIdentifier, unitedStates}) {
             char buffer[64] = {};
-            EXPECT_EQ(GetLocaleInfoA(locale, row.lctype, nullptr, 0), length);
-            EXPECT_EQ(GetLocaleInfoA(locale, row.lctype, buffer, length), length);
-            EXPECT_STREQ(buffer, row.value);
+            EXPECT_EQ(GetLocaleInfoA(locale, lctype, nullptr, 0), length);
+            EXPECT_EQ(GetLocaleInfoA(locale, lctype, buffer, length), length);
+            EXPECT_STREQ(buffer, value);
         }
     }
 }

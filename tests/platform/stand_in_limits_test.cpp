@@ -12,84 +12,61 @@
 namespace zem::msglib::platform {
 namespace {
 
+constexpr std::uint32_t english = localeIdentifier;
 constexpr std::uint32_t german = 7;
+constexpr SYSTEMTIME fields = {2001, 9, 6, 8, 0, 0, 0, 0};
+char buffer[8];
 
-TEST(StandInLimits, PicturesHaveNoDefaults) {
-    const SYSTEMTIME fields = {2001, 9, 6, 8, 0, 0, 0, 0};
-    char buffer[8];
-    struct {
-        int line;
-        std::uint32_t locale, flags;
-        const SYSTEMTIME* fields;
-        const char* picture;
-        int size;
-        std::uint32_t reason;
-    } const rows[] = {
-        {__LINE__, german, 0, &fields, "x", 8, ERROR_INVALID_PARAMETER},
-        {__LINE__, localeIdentifier, 1, &fields, "x", 8, ERROR_INVALID_FLAGS},
-        {__LINE__, localeIdentifier, 0, nullptr, "x", 8, ERROR_INVALID_PARAMETER},
-        {__LINE__, localeIdentifier, 0, &fields, nullptr, 8, ERROR_INVALID_PARAMETER},
-        {__LINE__, localeIdentifier, 0, &fields, "x", -1, ERROR_INVALID_PARAMETER},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        for (const auto operation : {GetDateFormatA, GetTimeFormatA}) {
-            EXPECT_EQ(operation(row.locale, row.flags, row.fields, row.picture, buffer, row.size),
-                      0);
-            EXPECT_EQ(GetLastError(), row.reason);
-        }
-    }
+int fetch(std::uint32_t flags, const void* module, char16_t* text) {
+    return static_cast<int>(FormatMessageW(flags, module, 1, 0x409, text, 0, nullptr));
 }
 
-TEST(StandInLimits, OneLocale) {
-    EXPECT_EQ(ConvertDefaultLocale(german), german);
-    EXPECT_FALSE(IsValidLocale(german, LCID_INSTALLED));
-    EXPECT_EQ(GetLocaleInfoA(german, LOCALE_SDECIMAL, nullptr, 0), 0);
-    EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+int convert(std::uint32_t codePage, int count) {
+    return WideCharToMultiByte(codePage, 0, u"a", count, buffer, 8, nullptr, nullptr);
 }
 
-TEST(StandInLimits, SuccessLeavesTheReason) {
-    EXPECT_EQ(GetLocaleInfoA(localeIdentifier, 0, nullptr, 0), 0);
-    EXPECT_EQ(GetLocaleInfoA(localeIdentifier, LOCALE_SDECIMAL, nullptr, 0), 2);
-    EXPECT_EQ(GetLastError(), ERROR_INVALID_FLAGS);
+template <class Operation>
+bool hasNoDefaults(const Operation& operation) {
+    const bool asked = operation(english, 1, &fields, "x", buffer, 8) == 0 &&
+                       GetLastError() == ERROR_INVALID_FLAGS;
+    return asked && operation(german, 0, &fields, "x", buffer, 8) == 0 &&
+           operation(english, 0, nullptr, "x", buffer, 8) == 0 &&
+           operation(english, 0, &fields, nullptr, buffer, 8) == 0 &&
+           operation(english, 0, &fields, "x", nullptr, 8) == 0 &&
+           operation(english, 0, &fields, "x", buffer, -1) == 0 &&
+           GetLastError() == ERROR_INVALID_PARAMETER;
 }
 
-TEST(StandInLimits, OnlyImagesAreKnownMemory) {
-    const int onStack = 0;
-    MEMORY_BASIC_INFORMATION information;
-    EXPECT_EQ(VirtualQuery(&onStack, &information, sizeof information), 0U);
-    EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
-}
-
-TEST(StandInLimits, OneWayToAskForMessages) {
+TEST(StandInLimits, RefusalsLeaveTheirReason) {
+    EXPECT_TRUE(hasNoDefaults(GetDateFormatA));
+    EXPECT_TRUE(hasNoDefaults(GetTimeFormatA));
+    static const void* const program = [] {
+        MEMORY_BASIC_INFORMATION information;
+        VirtualQuery("literal", &information, sizeof information);
+        return information.AllocationBase;
+    }();
+    static char16_t text[4];
     const struct {
         int line;
-        std::uint32_t flags;
-        bool hasBuffer;
+        int (*operation)();
         std::uint32_t reason;
     } rows[] = {
-        {__LINE__, 0xA00, true, ERROR_INVALID_FLAGS},
-        {__LINE__, 0, true, ERROR_INVALID_FLAGS},
-        {__LINE__, 0xB00, false, ERROR_INVALID_PARAMETER},
+        {__LINE__, [] { return GetLocaleInfoA(german, LOCALE_SDECIMAL, nullptr, 0); }, 87},
+        {__LINE__, [] { return fetch(0xA00, program, text); }, ERROR_INVALID_FLAGS},
+        {__LINE__, [] { return fetch(0xB00, program, nullptr); }, ERROR_INVALID_PARAMETER},
+        {__LINE__, [] { return fetch(0xB00, program, text); }, ERROR_MR_MID_NOT_FOUND},
+        {__LINE__, [] { return convert(CP_UTF8, -1); }, ERROR_INVALID_PARAMETER},
+        {__LINE__, [] { return convert(0, 1); }, ERROR_INVALID_PARAMETER},
     };
-    MEMORY_BASIC_INFORMATION program;
-    ASSERT_NE(VirtualQuery("literal", &program, sizeof program), 0U);
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
-        char16_t* text = nullptr;
-        auto* const buffer = row.hasBuffer ? reinterpret_cast<char16_t*>(&text) : nullptr;
-        EXPECT_EQ(FormatMessageW(row.flags, program.AllocationBase, 1, 0x409, buffer, 0, nullptr),
-                  0U);
+        EXPECT_EQ(row.operation(), 0);
         EXPECT_EQ(GetLastError(), row.reason);
-        EXPECT_EQ(text, nullptr);
+        EXPECT_EQ(GetLocaleInfoA(english, LOCALE_SDECIMAL, nullptr, 0), 2);
+        EXPECT_EQ(GetLastError(), row.reason) << "success leaves the reason";
     }
-}
-
-TEST(StandInLimits, OneCodePageAndCountedTexts) {
-    char output[8];
-    EXPECT_EQ(WideCharToMultiByte(CP_UTF8, 0, u"a", -1, output, 8, nullptr, nullptr), 0);
-    EXPECT_EQ(WideCharToMultiByte(0, 0, u"a", 1, output, 8, nullptr, nullptr), 0);
-    EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(ConvertDefaultLocale(german), german);
+    EXPECT_FALSE(IsValidLocale(german, LCID_INSTALLED));
 }
 
 } // namespace

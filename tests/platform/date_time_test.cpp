@@ -1,0 +1,196 @@
+#include "platform/LastError.h"
+#include "platform/LocaleServices.h"
+#include "support/Wine.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstring>
+#include <string>
+#include <thread>
+
+namespace zem::msglib::platform {
+
+bool operator==(const SYSTEMTIME& left, const SYSTEMTIME& right) {
+    return std::memcmp(&left, &right, sizeof left) == 0;
+}
+
+namespace {
+
+using Operation = int (*)(std::uint32_t, std::uint32_t, const SYSTEMTIME*, const char*, char*,
+                          int) noexcept;
+
+// The fields that the other operation reads make no sense.
+SYSTEMTIME date(std::uint16_t year, std::uint16_t month, std::uint16_t day) {
+    return {year, month, 99, day, 99, 0, 0, 0};
+}
+
+SYSTEMTIME timeOfDay(std::uint16_t hour, std::uint16_t minute, std::uint16_t second,
+                     std::uint16_t milliseconds = 0) {
+    return {0, 0, 0, 0, hour, minute, second, milliseconds};
+}
+
+/// Asks for the length, writes into exactly that many bytes, and then into one byte less, which
+/// must fail.
+std::string render(Operation operation, const SYSTEMTIME& fields, const char* picture) {
+    const int length = operation(localeIdentifier, 0, &fields, picture, nullptr, 0);
+    if (length <= 0) {
+        return "refused by " + std::to_string(GetLastError());
+    }
+    std::string text(static_cast<std::size_t>(length), '?');
+    EXPECT_EQ(operation(localeIdentifier, 0, &fields, picture, text.data(), length), length);
+    if (length > 1) {
+        std::string shorter(static_cast<std::size_t>(length) - 1, '?');
+        EXPECT_EQ(operation(localeIdentifier, 0, &fields, picture, shorter.data(), length - 1), 0);
+        EXPECT_EQ(GetLastError(), ERROR_INSUFFICIENT_BUFFER);
+    }
+    EXPECT_EQ(text.back(), '\0');
+    text.pop_back();
+    return text;
+}
+
+TEST(DateTimePictures, EveryFieldAndQuotes) {
+    struct {
+        int line;
+        Operation operation;
+        SYSTEMTIME fields;
+        const char* picture;
+        const char* text;
+        const char* underWine = nullptr;
+    } const rows[] = {
+        {__LINE__, GetDateFormatA, date(1970, 1, 1), "d dd ddd dddd dddddd",
+         "1 01 Thu Thursday Thursday"},
+        {__LINE__, GetDateFormatA, date(2023, 9, 30), "M MM MMM MMMM MMMMM",
+         "9 09 Sep September September"},
+        {__LINE__, GetDateFormatA, date(2007, 12, 3), "y yy yyy yyyy yyyyy", "7 07 2007 2007 2007",
+         "07 07 2007 2007 2007"},
+        {__LINE__, GetDateFormatA, date(2000, 2, 29), "g gg ggg", "A.D. A.D. A.D.",
+         "AD ADAD ADADAD"},
+        {__LINE__, GetDateFormatA, date(1601, 1, 1), "dddd", "Monday"},
+        {__LINE__, GetDateFormatA, date(30827, 12, 31), "dddd yyyy-MM-dd", "Friday 30827-12-31"},
+        {__LINE__, GetDateFormatA, date(2001, 9, 8), "hH:ms tDYG\xC3\xA9\xFF/d\n",
+         "hH:ms tDYG\xC3\xA9\xFF/8\n"},
+        {__LINE__, GetDateFormatA, date(2001, 9, 8), "'day' d''M''''d 'd", "day 89'8 d"},
+        {__LINE__, GetDateFormatA, date(2001, 9, 8), "'''", "'"},
+        {__LINE__, GetDateFormatA, date(2001, 9, 8), "'", ""},
+        {__LINE__, GetDateFormatA, date(2001, 9, 8), "", ""},
+        {__LINE__, GetTimeFormatA, timeOfDay(0, 0, 0), "h hh H HH tt", "12 12 0 00 AM"},
+        {__LINE__, GetTimeFormatA, timeOfDay(11, 59, 59, 999), "h:mm:ss t", "11:59:59 A"},
+        {__LINE__, GetTimeFormatA, timeOfDay(12, 0, 0), "h HH tt", "12 12 PM"},
+        {__LINE__, GetTimeFormatA, timeOfDay(13, 4, 5), "h hh HHH m mm mmm s ss sss t ttt",
+         "1 01 13 4 04 04 5 05 05 P PM"},
+        {__LINE__, GetTimeFormatA, timeOfDay(9, 8, 7), "dMy ga T 'o''clock' 'h",
+         "dMy ga T o'clock h"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const bool differs = row.underWine != nullptr && runsUnderWine();
+        EXPECT_EQ(render(row.operation, row.fields, row.picture),
+                  differs ? row.underWine : row.text);
+    }
+}
+
+// Nothing but the failures may come in between: creating and joining threads can leave reasons too.
+TEST(DateTimePictures, TheReasonBelongsToItsThread) {
+    std::atomic<int> failures = 0;
+    std::thread other([&failures] {
+        while (failures < 1) {
+        }
+        char byte;
+        EXPECT_EQ(GetLocaleInfoA(localeIdentifier, LOCALE_SCURRENCY, &byte, 1), 0);
+        EXPECT_EQ(GetLastError(), ERROR_INSUFFICIENT_BUFFER);
+        failures = 2;
+    });
+    EXPECT_EQ(render(GetTimeFormatA, timeOfDay(24, 0, 0), "h"), "refused by 87");
+    failures = 1;
+    while (failures < 2) {
+    }
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+    other.join();
+}
+
+constexpr std::uint64_t unitsPerDay = 864'000'000'000;
+
+FILETIME halves(std::uint64_t count) {
+    return {static_cast<std::uint32_t>(count), static_cast<std::uint32_t>(count >> 32)};
+}
+
+// The week day is for the reader only: on the way back it makes no sense.
+void expectFields(std::uint64_t count, const SYSTEMTIME& expected) {
+    const FILETIME asHalves = halves(count);
+    SYSTEMTIME fields = {};
+    EXPECT_TRUE(FileTimeToSystemTime(&asHalves, &fields));
+    EXPECT_TRUE(fields == expected) << count;
+    fields.wDayOfWeek = 99;
+    FILETIME back = {};
+    EXPECT_TRUE(SystemTimeToFileTime(&fields, &back));
+    EXPECT_EQ(std::uint64_t{back.dwHighDateTime} << 32 | back.dwLowDateTime, count);
+}
+
+TEST(FileTime, EveryDayFollowsTheDayBefore) {
+    constexpr int monthLengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    SYSTEMTIME fields = {1601, 1, 1, 1, 0, 0, 0, 0};
+    for (std::uint64_t day = 0; day < 800 * 365 && !HasFailure(); ++day) {
+        expectFields(day * unitsPerDay, fields);
+        const bool leaps =
+            fields.wYear % 4 == 0 && (fields.wYear % 100 != 0 || fields.wYear % 400 == 0);
+        const bool isMonthEnd =
+            fields.wDay == monthLengths[fields.wMonth - 1] + (leaps && fields.wMonth == 2 ? 1 : 0);
+        const bool isYearEnd = isMonthEnd && fields.wMonth == 12;
+        fields.wYear = static_cast<std::uint16_t>(fields.wYear + (isYearEnd ? 1 : 0));
+        fields.wMonth =
+            static_cast<std::uint16_t>(isYearEnd ? 1 : fields.wMonth + (isMonthEnd ? 1 : 0));
+        fields.wDay = static_cast<std::uint16_t>(isMonthEnd ? 1 : fields.wDay + 1);
+        fields.wDayOfWeek = static_cast<std::uint16_t>((fields.wDayOfWeek + 1) % 7);
+    }
+}
+
+TEST(FileTime, TimesOfDayAndTheLastCount) {
+    expectFields(10'000, {1601, 1, 1, 1, 0, 0, 0, 1});
+    expectFields(116'444'735'990'000'000, {1969, 12, 3, 31, 23, 59, 59, 0});
+    expectFields(9'223'149'887'999'990'000, {30827, 12, 5, 31, 23, 59, 59, 999});
+    SYSTEMTIME fields = {};
+    FILETIME count = halves((std::uint64_t{1} << 63) - 1);
+    EXPECT_TRUE(FileTimeToSystemTime(&count, &fields));
+    EXPECT_TRUE((fields == SYSTEMTIME{30828, 9, 4, 14, 2, 48, 5, 477}));
+    for (const std::uint64_t refused : {std::uint64_t{1} << 63, ~std::uint64_t{0}}) {
+        count = halves(refused);
+        EXPECT_FALSE(FileTimeToSystemTime(&count, &fields));
+        EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+    }
+}
+
+TEST(FileTime, FieldsThatNameNoTimeAreRefused) {
+    struct {
+        int line;
+        Operation operation; ///< the picture that reads the wrong field
+        SYSTEMTIME fields;
+        bool acceptedByWine = false;
+    } const rows[] = {
+        {__LINE__, GetDateFormatA, {1600, 12, 0, 31, 0, 0, 0, 0}},
+        {__LINE__, GetDateFormatA, {30828, 1, 0, 1, 0, 0, 0, 0}, true},
+        {__LINE__, GetDateFormatA, {1970, 0, 0, 1, 0, 0, 0, 0}},
+        {__LINE__, GetDateFormatA, {1970, 13, 0, 1, 0, 0, 0, 0}},
+        {__LINE__, GetDateFormatA, {1970, 1, 0, 0, 0, 0, 0, 0}},
+        {__LINE__, GetDateFormatA, {1970, 1, 0, 32, 0, 0, 0, 0}},
+        {__LINE__, GetDateFormatA, {1970, 6, 0, 31, 0, 0, 0, 0}},
+        {__LINE__, GetDateFormatA, {2100, 2, 0, 29, 0, 0, 0, 0}, true},
+        {__LINE__, GetTimeFormatA, {1970, 1, 0, 1, 24, 0, 0, 0}},
+        {__LINE__, GetTimeFormatA, {1970, 1, 0, 1, 0, 60, 0, 0}},
+        {__LINE__, GetTimeFormatA, {1970, 1, 0, 1, 0, 0, 60, 0}},
+        {__LINE__, GetTimeFormatA, {1970, 1, 0, 1, 0, 0, 0, 1000}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        if (row.acceptedByWine && runsUnderWine()) {
+            continue;
+        }
+        EXPECT_EQ(render(row.operation, row.fields, "no letter"), "refused by 87");
+        FILETIME count = {};
+        EXPECT_FALSE(SystemTimeToFileTime(&row.fields, &count));
+        EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
+    }
+}
+
+} // namespace
+} // namespace zem::msglib::platform

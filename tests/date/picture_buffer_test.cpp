@@ -1,25 +1,72 @@
+// The pictures of date and time are fakes here, which answer as a test tells them.
+
 #include "message/Outcome.h"
 #include "msglib/SimpleDateFormat.h"
-#include "support/FakePictures.h"
+#include "platform/LastError.h"
+#include "platform/LocaleServices.h"
 
 #include <cstdint>
+#include <deque>
 
 namespace zem::msglib {
+namespace {
+
+struct Answer {
+    int result;             ///< what the operation returns
+    std::string bytes;      ///< what it writes
+    bool isTooShort = true; ///< which reason a 0 leaves behind
+};
+
+std::deque<Answer> answers;
+std::string calls; ///< operation, picture and size of each, as in "Dyy:64 Th:64 "
+
+int answer(char operation, const std::string& picture, char* buffer, int size) {
+    calls += operation + picture + ':' + std::to_string(size) + ' ';
+    EXPECT_EQ(buffer == nullptr, size == 0);
+    const Answer given = answers.at(0);
+    answers.pop_front();
+    if (given.result == 0) {
+        char byte;
+        platform::GetLocaleInfoA(platform::localeIdentifier, platform::LOCALE_SCURRENCY,
+                                 given.isTooShort ? &byte : nullptr, 1);
+    }
+    given.bytes.copy(buffer, static_cast<std::size_t>(size));
+    return given.result;
+}
+
+} // namespace
+
+namespace platform {
+
+int GetDateFormatA(std::uint32_t, std::uint32_t, const SYSTEMTIME*, const char* picture,
+                   char* buffer, int size) noexcept {
+    return answer('D', picture, buffer, size);
+}
+
+int GetTimeFormatA(std::uint32_t, std::uint32_t, const SYSTEMTIME*, const char* picture,
+                   char* buffer, int size) noexcept {
+    return answer('T', picture, buffer, size);
+}
+
+} // namespace platform
+
 namespace {
 
 using namespace std::string_literals;
 
 TEST(PictureBuffer, GrowsAsThePlatformAsksAndServesEveryRun) {
-    const std::string fits(63, 'x');
-    const std::string longText(99, 'm');
-    const std::string longer(199, 'n');
-    using Answer = FakePictures::Answer;
-    const auto writes = [](const std::string& text) {
-        return Answer{static_cast<int>(text.size()) + 1, text + '\0', 0};
-    };
-    const auto needs = [](int size) { return Answer{size, "", 0}; };
-    const Answer tooShort = {0, "", 122};
-    const Answer refused = {0, "", 87};
+    const std::string full(63, 'x');
+    const std::string m(99, 'm');
+    const std::string n(199, 'n');
+    const Answer ok = {2, "k\0"s};
+    const Answer fits = {64, full + '\0'};
+    const Answer ends = {6, "ab\0cd\0"s};
+    const Answer no = {0, ""};
+    const Answer never = {0, "", false};
+    const Answer needs = {100, ""};
+    const Answer large = {100, m + '\0'};
+    const Answer more = {200, ""};
+    const Answer larger = {200, n + '\0'};
     struct {
         int line;
         const char* pattern;
@@ -27,59 +74,41 @@ TEST(PictureBuffer, GrowsAsThePlatformAsksAndServesEveryRun) {
         const char* calls;
         std::string text;
     } const rows[] = {
-        {__LINE__, "yyyy-h", {writes("Y"), writes("H")}, "Dyyyy:64 Th:64", "Y-H"},
-        {__LINE__, "M", {writes(fits)}, "DM:64", fits},
-        {__LINE__, "M", {writes("ab\0cd"s)}, "DM:64", "ab"},
-        {__LINE__, "M", {tooShort, needs(100), writes(longText)}, "DM:64 DM:0 DM:100", longText},
+        {__LINE__, "yyyy-h", {ok, ok}, "Dyyyy:64 Th:64 ", "k-k"},
+        {__LINE__, "M", {fits}, "DM:64 ", full},
+        {__LINE__, "M", {ends}, "DM:64 ", "ab"},
+        {__LINE__, "Mh", {no, needs, large, ok}, "DM:64 DM:0 DM:100 Th:100 ", m + "k"},
         {__LINE__,
-         "Mh",
-         {tooShort, needs(100), writes(longText), writes("h")},
-         "DM:64 DM:0 DM:100 Th:100",
-         longText + "h"},
-        {__LINE__,
-         "MMd",
-         {tooShort, needs(100), writes(longText), tooShort, needs(200), writes(longer)},
-         "DMM:64 DMM:0 DMM:100 Dd:100 Dd:0 Dd:200",
-         longText + longer},
+         "Md",
+         {no, needs, large, no, more, larger},
+         "DM:64 DM:0 DM:100 Dd:100 Dd:0 Dd:200 ",
+         m + n},
         // refused runs add nothing, and the others stand
-        {__LINE__, "h-d", {refused, writes("d")}, "Th:64 Dd:64", "-d"},
+        {__LINE__, "h-d", {never, ok}, "Th:64 Dd:64 ", "-k"},
+        {__LINE__, "M-d", {no, needs, never, ok}, "DM:64 DM:0 DM:100 Dd:100 ", "-k"},
+        {__LINE__, "M-d", {no, needs, no, ok}, "DM:64 DM:0 DM:100 Dd:100 ", "-k"},
+        {__LINE__, "m-d", {ok, no, needs, never}, "Tm:64 Dd:64 Dd:0 Dd:100 ", "k-"},
+        {__LINE__, "M-d", {no, never, ok}, "DM:64 DM:0 Dd:64 ", "-k"},
         {__LINE__,
-         "M-d",
-         {tooShort, needs(100), refused, writes("d")},
-         "DM:64 DM:0 DM:100 Dd:100",
-         "-d"},
-        {__LINE__,
-         "M-d",
-         {tooShort, needs(100), tooShort, writes("d")},
-         "DM:64 DM:0 DM:100 Dd:100",
-         "-d"},
-        {__LINE__,
-         "m-d",
-         {writes("m"), tooShort, needs(100), refused},
-         "Tm:64 Dd:64 Dd:0 Dd:100",
-         "m-"},
-        {__LINE__, "M-d", {tooShort, refused, writes("d")}, "DM:64 DM:0 Dd:64", "-d"},
-        {__LINE__,
-         "MM-d-h",
-         {tooShort, needs(100), writes(longText), tooShort, refused, writes("h")},
-         "DMM:64 DMM:0 DMM:100 Dd:100 Dd:0 Th:100",
-         longText + "--h"},
+         "M-d-h",
+         {no, needs, ok, no, never, ok},
+         "DM:64 DM:0 DM:100 Dd:100 Dd:0 Th:100 ",
+         "k--k"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
-        FakePictures pictures(row.answers);
-        const SimpleDateFormat format(row.pattern, std::locale::classic());
-        EXPECT_EQ(textOf(format, boost::any(0)), row.text);
-        EXPECT_EQ(pictures.calls, row.calls);
-        EXPECT_TRUE(pictures.answers.empty());
+        answers = row.answers;
+        calls.clear();
+        EXPECT_EQ(textOf(SimpleDateFormat(row.pattern, std::locale()), boost::any(0)), row.text);
+        EXPECT_EQ(calls, row.calls);
+        EXPECT_TRUE(answers.empty());
     }
 }
 
 TEST(PictureBuffer, TimesWithoutFieldsAskForNoPicture) {
-    FakePictures pictures({});
-    const SimpleDateFormat format("y-h", std::locale::classic());
-    EXPECT_EQ(textOf(format, boost::any(INT64_MAX + 0LL)), "-");
-    EXPECT_EQ(pictures.calls, "");
+    calls.clear();
+    EXPECT_EQ(textOf(SimpleDateFormat("y-h", std::locale()), boost::any(INT64_MAX + 0LL)), "-");
+    EXPECT_EQ(calls, "");
 }
 
 } // namespace

@@ -26,26 +26,14 @@ TEST(SimpleDateFormat, Patterns) {
         std::string text;
         std::string underWine = {};
     } const rows[] = {
-        {__LINE__, iso, 0, "1970-01-01 00:00:00"},
         {__LINE__, iso, 86399, "1970-01-01 23:59:59"},
-        {__LINE__, iso, 1000000000, "2001-09-09 01:46:40"},
-        {__LINE__, iso, -1, "1969-12-31 23:59:59"},
-        {__LINE__, "dddd, MMMM d, yyyy", 0, "Thursday, January 1, 1970"},
         {__LINE__, "ddMMyyy g gg", 1000000000, "09092001 A.D. A.D.", "09092001 AD ADAD"},
-        {__LINE__, "h t H", 43200, "12 P 12"},
-        {__LINE__, "yyyy-MM-ddTHH:mm", 0, "1970-01-01T00:00"},
+        {__LINE__, "MMMM" + std::string(300, 'd'), 0, "JanuaryThursday"},
         {__LINE__, "YYYY DaSTzGE 0{}#,\xC3\xA9", 5, "YYYY DaSTzGE 0{}#,\xC3\xA9"},
         {__LINE__, "s\0s"s, 5, "5\0"s + "5"},
-        {__LINE__, "h 'o''clock'", 0, "12 o'clock"},
-        {__LINE__, "a''b", 0, "ab"},
-        {__LINE__, "d''d", 0, "11"},
+        {__LINE__, "d''d'''d''''d'd", 0, "11'd''d1"},
         {__LINE__, "'", 0, ""},
-        {__LINE__, "'''", 0, "'"},
-        {__LINE__, "''''", 0, "'"},
-        {__LINE__, "'''''", 0, "''"},
         {__LINE__, "'abc", 0, "abc"},
-        {__LINE__, "'d'd'd", 0, "d1d"},
-        {__LINE__, "", 0, ""},
         // both ends of the calendar
         {__LINE__, iso, -11644473600, "1601-01-01 00:00:00"},
         {__LINE__, iso, -11644473601, "-- ::"},
@@ -66,46 +54,31 @@ TEST(SimpleDateFormat, Patterns) {
 
 TEST(SimpleDateFormat, ReadsEveryKindAsSeconds) {
     const double infinity = std::numeric_limits<double>::infinity();
-    const auto veryOld = static_cast<unsigned long long>(-1LL);
-    const std::string failure = "!" + notADate;
     struct {
         int line;
         boost::any value;
         std::string text;
     } const rows[] = {
         {__LINE__, short{-1}, "1969 23:59:59"},
-        {__LINE__, -2, "1969 23:59:58"},
-        {__LINE__, -3L, "1969 23:59:57"},
         {__LINE__, static_cast<unsigned short>(65535), "1970 18:12:15"},
         {__LINE__, 4294967295U, "2106 06:28:15"},
         {__LINE__, 4294967295UL, "2106 06:28:15"},
-        {__LINE__, veryOld, "1969 23:59:59"},
-        {__LINE__, true, "1970 00:00:01"},
-        {__LINE__, 1.9, "1970 00:00:01"},
-        {__LINE__, -0.5, "1970 00:00:00"},
+        {__LINE__, static_cast<unsigned long long>(-1LL), "1969 23:59:59"},
         {__LINE__, -1.9F, "1969 23:59:59"},
         {__LINE__, 16777217.9, "1970 04:20:17"},
         // no integer, or none that has a calendar day
-        {__LINE__, std::numeric_limits<double>::quiet_NaN(), " ::"},
         {__LINE__, std::numeric_limits<float>::quiet_NaN(), " ::"},
         {__LINE__, infinity, " ::"},
         {__LINE__, -infinity, " ::"},
         {__LINE__, 0x1p63, " ::"},
         {__LINE__, -0x1p63, " ::"},
-        {__LINE__, std::numeric_limits<float>::max(), " ::"},
         {__LINE__, 1ULL << 63, " ::"},
-        // kinds that are no time
-        {__LINE__, 'c', failure},
-        {__LINE__, static_cast<unsigned char>(1), failure},
-        {__LINE__, 1.0L, failure},
-        {__LINE__, "1"s, failure},
-        {__LINE__, geom::Angle(1.0), failure},
-        {__LINE__, boost::any(), failure},
+        {__LINE__, geom::Angle(1.0), "!" + notADate},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
         EXPECT_EQ(textOfTime("yyyy HH:mm:ss", row.value), row.text);
-        EXPECT_EQ(textOfTime("", row.value), row.text.front() == '!' ? failure : "");
+        EXPECT_EQ(textOfTime("", row.value), row.text.front() == '!' ? row.text : "");
     }
 }
 

@@ -87,6 +87,8 @@ std::string failureOf(const Operation& operation) {
     try {
         operation();
     } catch (const std::out_of_range& failure) {
+        require(failure.what() == std::string("Value of type long is outside its 32-bit range"),
+                "a long is out of range");
         return failure.what();
     } catch (const std::runtime_error& failure) {
         require(isDocumented(failure.what()), "failure is documented");

@@ -62,18 +62,9 @@ TEST(MessageLibrary, EveryFailureIsTextByIdentifierAndThrownByPattern) {
         std::string pattern, words;
     } const rows[] = {
         {__LINE__, "}", unexpectedBrace},
-        {__LINE__, "{x}", illegalArgument},
-        {__LINE__, "{2}", indexTooHigh},
         {__LINE__, "{0,choice}", styleRequired},
         {__LINE__, "{1,number}", notANumber},
-        {__LINE__, "{0,number,# #}", "separator character expected"},
-        {__LINE__, "{0,number,0;0;0}", "end of pattern expected"},
         {__LINE__, "{0,number,0%%}", "multiplier already set"},
-        {__LINE__, "{0,number,#.#0}", "zero mark following digit"},
-        {__LINE__, "{0,number,0#}", "digit mark (#) following zero-index"},
-        {__LINE__, "{0,number,0E0#}", "digit mark (#) following zero in exponent"},
-        {__LINE__, "{0,choice,0}", choiceSyntax},
-        {__LINE__, "{1,date}", notADate},
         {__LINE__, "{0,choice,0#{0,choice,0#'{'x}}", illegalArgument},
     };
     const Arguments args = {1, "x"s};

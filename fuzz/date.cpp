@@ -26,6 +26,8 @@ void checkSeam(const std::string& pattern, const boost::any& seconds, const std:
 } // namespace
 } // namespace zem::msglib::fuzzing
 
+const zem::msglib::fuzzing::ShortInputs zem::msglib::fuzzing::shortInputs = {"1e9\n", "dyh'x"};
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace zem::msglib;
     using namespace zem::msglib::fuzzing;

@@ -70,6 +70,9 @@ void checkFields(PlainDecimal fields, double value) {
 } // namespace
 } // namespace zem::msglib::fuzzing
 
+const zem::msglib::fuzzing::ShortInputs zem::msglib::fuzzing::shortInputs = {"-1234.5\n",
+                                                                             ".,#0E;%\xA4'x"};
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace zem::msglib::fuzzing;
     const Input input(data, size);

@@ -2,6 +2,8 @@
 
 #include "Properties.h"
 
+const zem::msglib::fuzzing::ShortInputs zem::msglib::fuzzing::shortInputs = {"", "{}',0x"};
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace zem::msglib::fuzzing;
     const std::string text = Input(data, size).whole;

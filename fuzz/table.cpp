@@ -62,6 +62,8 @@ std::set<std::uint32_t> interestingIds(Bytes table) {
 } // namespace
 } // namespace zem::msglib::fuzzing
 
+const zem::msglib::fuzzing::ShortInputs zem::msglib::fuzzing::shortInputs = {"", ""};
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace zem::msglib::fuzzing;
     const Bytes table(data, size);

@@ -9,30 +9,6 @@
 namespace zem::msglib {
 namespace {
 
-// The plain dump, and behind it a whole number with grouping switched on, which shows the group
-// size.
-std::string compiledForm(const DecimalFormat& format) {
-    DecimalFormat grouped = format;
-    grouped.setGroupingUsed(true);
-    return dump(format) + " | " + textOf(grouped, 12345L);
-}
-
-TEST(DecimalPattern, CompilesToItsFields) {
-    const PatternCase rows[] = {
-        {__LINE__, "", "0.0-0 |  | 1234568 | -1235 | 12345"},
-        {__LINE__, "##00.", "2.0-0 | 00 | 1234568 | -1235 | 1,2345"},
-        {__LINE__, "0,0", "2.0-0, | 0,0 | 1,2,3,4,5,6,8 | -1,2,3,5 | 1,2,3,4,5"},
-        {__LINE__, "0;0%", "1.0-0 | 0 | 123456789 | 123450% | 1,2,3,4,5"},
-        {__LINE__, "0\xA4\xA4\xA4", "1.0-0 | 0USD$ | 1234568USD$ | -1235USD$ | 1,2,3,4,5USD$"},
-        {__LINE__, "$0 kg;(#", "1.0-0 | $0 kg | $1234568 kg | (1235 kg | $1,2,3,4,5 kg"},
-        {__LINE__, "00.#E00", "2.0-1 | 00E00 | 12.3E05 | -12.3E02 | 12.3E03"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(compiledForm(DecimalFormat(row.pattern, {})), row.expected);
-    }
-}
-
 TEST(DecimalPattern, FailsAndKeepsWhatWasCompiled) {
     const PatternCase rows[] = {
         {__LINE__, "0;(0#", "digit mark (#) following zero-index; 1.0-0 | 0 | 1234568 | (1235"},

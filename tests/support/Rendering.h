@@ -8,7 +8,6 @@
 #include <locale>
 #include <sstream>
 #include <string>
-#include <string_view>
 
 namespace zem::msglib {
 
@@ -41,19 +40,6 @@ std::string textOf(const Formatter& formatter, const Value& value) {
         failureOf([&] { EXPECT_EQ(&formatter.format(value, out), &out); }, "!");
     EXPECT_EQ(out.substr(0, kept.size()), kept);
     return out.substr(kept.size()) + failure;
-}
-
-/// Calls `check` with every text that adds up to `length` of the `bytes` to `text`, until a test
-/// fails.
-template <class Check>
-void forEachText(std::string_view bytes, int length, std::string text, const Check& check) {
-    check(text);
-    if (length == 0 || testing::Test::HasFailure()) {
-        return;
-    }
-    for (const char byte : bytes) {
-        forEachText(bytes, length - 1, text + byte, check);
-    }
 }
 
 /// Numbers with a decimal comma, and a point in front of each two digits.

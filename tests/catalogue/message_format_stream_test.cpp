@@ -1,7 +1,7 @@
+#include "ProgramTexts.h"
 #include "message/Outcome.h"
 #include "msglib/MessageFormatStream.h"
 #include "msglib/MessageLibrary.h"
-#include "support/FakeMessages.h"
 
 #include <stdexcept>
 #include <utility>
@@ -81,15 +81,13 @@ TEST(MessageFormatStream, CopiesAreDeepAndMovesTakeTheRecord) {
 }
 
 TEST(MessageFormatStream, MessageIdIsThatOfTheCurrentMessage) {
-    const FakeMessages messages({{0x210001, "one{0}"}, {0x210002, "two"}});
-    MessageLibrary::instance().registerFacility(0x21, &messages);
+    registerProgramTexts();
     const Stream stream("p");
     EXPECT_EQ(stream.messageId(), 0U);
-    stream << Stream(0x210001) << 1;
-    EXPECT_EQ(stream.messageId(), 0x210001U);
-    stream << Stream(0x210002);
-    EXPECT_EQ(stream.messageId(), 0x210002U);
-    EXPECT_EQ(stream.toString(), "pone1two");
+    stream << Stream(MSG_VALUE) << 1;
+    EXPECT_EQ(stream.messageId(), MSG_VALUE);
+    EXPECT_EQ((stream << Stream("q")).messageId(), 0U);
+    EXPECT_EQ(stream.toString(), "pValue 1\nq");
     const char* nothing = nullptr;
     EXPECT_EQ(Stream(nothing).messageId(), 0U);
     EXPECT_THROW(Stream(nothing).toString(), std::runtime_error);
@@ -106,11 +104,10 @@ TEST(MessageFormatStream, FailuresByPatternLeaveTheStreamAsItWas) {
 }
 
 TEST(MessageFormatStream, FailuresByIdentifierAreText) {
-    const FakeMessages messages({{0x220001, "{1}"}, {0x220002, "-"}});
-    MessageLibrary::instance().registerFacility(0x22, &messages);
-    const Stream stream(0x220001);
-    stream << Stream(0x220002) << Stream(0x220003) << Stream(0x220002);
-    EXPECT_EQ(stream.toString(), indexTooHigh + "-Invalid message ID-");
+    registerProgramTexts();
+    const Stream stream(MSG_VALUE);
+    stream << Stream(MSG_WRONG) << Stream(MSG_GERMAN_ONLY) << Stream(MSG_VALUE) << 1;
+    EXPECT_EQ(stream.toString(), indexTooHigh + unexpectedBrace + "Invalid message IDValue 1\n");
     stream << Stream(0x230001);
     EXPECT_THROW(stream.toString(), std::runtime_error);
     EXPECT_THROW(stream << Stream("lost"), std::runtime_error);

@@ -1,12 +1,103 @@
+// The message tables are fakes here: every failure of theirs can be had.
+
 #include "message/Outcome.h"
 #include "msglib/MessageLibrary.h"
-#include "support/FakeMessages.h"
+#include "platform/MessageTables.h"
 
+#include <algorithm>
 #include <locale>
+#include <map>
+#include <memory>
+#include <set>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace zem::msglib {
+namespace {
+
+/// Stands in for the platform's message tables.
+///
+/// The object made last is in force. Its modules are 64 KiB of addresses each, all with the same
+/// ASCII texts. At its end it tells the test of buffers that were not released exactly once.
+struct FakeMessages {
+    explicit FakeMessages(std::map<std::uint32_t, std::string> asciiTexts)
+        : texts(std::move(asciiTexts)) {
+        inForce = this;
+    }
+    ~FakeMessages() {
+        EXPECT_TRUE(held.empty() && badReleases == 0) << "a buffer was not released exactly once";
+    }
+    FakeMessages(const FakeMessages&) = delete;
+    FakeMessages& operator=(const FakeMessages&) = delete;
+
+    std::map<std::uint32_t, std::string> texts;
+    int failingConversion = 0;       ///< the conversion that fails, counted from 1; 0: none
+    bool allocatesOnFailure = false; ///< a missing message leaves a buffer all the same
+    std::size_t queryResult = sizeof(platform::MEMORY_BASIC_INFORMATION);
+    std::uint32_t memoryType = platform::MEM_IMAGE;
+
+    std::string lookUps; ///< flags, module, identifier and language of each, in hexadecimal
+    int buffers = 0;     ///< handed out so far
+    int conversions = 0;
+    int badReleases = 0;
+    std::set<void*> held;
+
+    static inline FakeMessages* inForce = nullptr;
+};
+
+} // namespace
+
+namespace platform {
+
+std::size_t VirtualQuery(const void* address, MEMORY_BASIC_INFORMATION* information,
+                         std::size_t) noexcept {
+    const auto module = reinterpret_cast<std::uintptr_t>(address) & ~std::uintptr_t{0xFFFF};
+    information->AllocationBase = reinterpret_cast<void*>(module);
+    information->Type = FakeMessages::inForce->memoryType;
+    return FakeMessages::inForce->queryResult;
+}
+
+std::uint32_t FormatMessageW(std::uint32_t flags, HMODULE module, std::uint32_t messageId,
+                             std::uint32_t languageId, char16_t* buffer, std::uint32_t size,
+                             void* arguments) noexcept {
+    EXPECT_TRUE(size == 0 && arguments == nullptr);
+    std::ostringstream lookUp;
+    lookUp.imbue(std::locale::classic());
+    lookUp << std::hex << flags << ' ' << module << ' ' << messageId << ' ' << languageId << ';';
+    FakeMessages::inForce->lookUps += lookUp.str();
+    const std::string text = FakeMessages::inForce->texts[messageId];
+    if (text.empty() && !FakeMessages::inForce->allocatesOnFailure) {
+        return 0;
+    }
+    char16_t* const units = std::make_unique<char16_t[]>(text.size() + 1).release();
+    std::copy(text.begin(), text.end(), units);
+    FakeMessages::inForce->held.insert(units);
+    ++FakeMessages::inForce->buffers;
+    *reinterpret_cast<char16_t**>(buffer) = units;
+    return static_cast<std::uint32_t>(text.size());
+}
+
+int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t flags, const char16_t* text,
+                        int count, char* output, int size, const char* defaultCharacter,
+                        bool* usedDefaultCharacter) noexcept {
+    EXPECT_TRUE(codePage == CP_UTF8 && flags == 0 && (size == 0 || size == count));
+    EXPECT_TRUE(defaultCharacter == nullptr && usedDefaultCharacter == nullptr);
+    if (++FakeMessages::inForce->conversions == FakeMessages::inForce->failingConversion) {
+        return 0;
+    }
+    std::transform(text, text + size, output,
+                   [](char16_t unit) { return static_cast<char>(unit); });
+    return count;
+}
+
+void LocalFree(void* memory) noexcept {
+    FakeMessages::inForce->badReleases += FakeMessages::inForce->held.erase(memory) == 1 ? 0 : 1;
+    delete[] static_cast<char16_t*>(memory);
+}
+
+} // namespace platform
+
 namespace {
 
 using namespace std::string_literals;

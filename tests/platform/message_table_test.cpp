@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zem::msglib::platform {
@@ -93,26 +94,25 @@ void damage(const Data& data, const Check& check) {
     }
 }
 
-const struct {
-    int line;
-    std::uint32_t id;
-    std::u16string text;
-} sampleTexts[] = {
-    {__LINE__, 0, u""},          {__LINE__, 1, u"one\r\n"},
-    {__LINE__, 2, u""},          {__LINE__, 3, u"three"},
-    {__LINE__, 4, u""},          {__LINE__, 0x00050000, u""},
-    {__LINE__, 0x00050002, u""}, {__LINE__, 0x00050001, u"café \U0001F600"},
-    {__LINE__, 0xFFFFFFFF, u""}, {__LINE__, 0xC0050001, u"x"},
-};
-
 TEST(TableReader, FindsWhatIsThereHoweverItIsDamaged) {
-    for (const auto& row : sampleTexts) {
-        SCOPED_TRACE(row.line);
-        EXPECT_EQ(find(sampleTable, row.id), row.text);
+    const std::pair<std::uint32_t, std::u16string> messages[] = {{0, u""},
+                                                                 {1, u"one\r\n"},
+                                                                 {2, u""},
+                                                                 {3, u"three"},
+                                                                 {4, u""},
+                                                                 {0x00050000, u""},
+                                                                 {0x00050001, u"café \U0001F600"},
+                                                                 {0x00050002, u""},
+                                                                 {0xC0050001, u"x"},
+                                                                 {0xFFFFFFFF, u""}};
+    for (const auto& message : messages) {
+        const std::uint32_t id = message.first;
+        SCOPED_TRACE(id);
+        EXPECT_EQ(find(sampleTable, id), message.second);
         damage(sampleTable, [&](const Data& damaged) {
-            const std::u16string text = find(damaged, row.id);
+            const std::u16string text = find(damaged, id);
             const bool isCut = damaged.size() < sampleTable.size();
-            EXPECT_TRUE(text.empty() || text == row.text || !isCut);
+            EXPECT_TRUE(text.empty() || text == message.second || !isCut);
             EXPECT_LT(2 * text.size(), sampleTable.size());
         });
     }

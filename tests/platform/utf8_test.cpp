@@ -33,7 +33,7 @@ TEST(WideCharToMultiByteTest, ConvertsAndMeasures) {
         {__LINE__, {u'a', 0, u'b'}, {'a', 0, 'b'}},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE("row of line " + std::to_string(row.line));
+        SCOPED_TRACE(row.line);
         const int size = convert(row.text, nullptr, 0);
         ASSERT_EQ(size, static_cast<int>(row.bytes.size()));
         std::string bytes(row.bytes.size() + 1, '#');

@@ -7,7 +7,7 @@ namespace zem::msglib {
 
 namespace {
 
-constexpr std::size_t blockSize = 64;
+constexpr std::size_t blockSize = 128;
 constexpr std::size_t wordSize = sizeof(std::uint64_t);
 constexpr std::uint64_t everyByte = 0x0101010101010101;
 
@@ -40,13 +40,14 @@ std::size_t bytesBelow(std::uint64_t bits) noexcept {
 #endif
 }
 
-// Of a fixed length and without an early exit, so that the compiler tests many bytes at once. Every
-// brace is above "z", and hardly anything else is.
-bool blockMayHaveSyntax(const char* block, char another) noexcept {
-    unsigned char found = 0;
+// Tells whether a block may have quotes or braces: every brace is above "z", and hardly anything
+// else is. Of a fixed length and without an early exit, so that the compiler tests many bytes at
+// once.
+bool mayHaveQuoteOrBrace(const char* block) noexcept {
+    signed char found = 0;
     for (std::size_t i = 0; i < blockSize; ++i) {
         const auto c = static_cast<signed char>(block[i]);
-        found |= static_cast<unsigned char>((c == quote) | (c > 'z') | (c == another));
+        found = static_cast<signed char>(found | -(c == quote) | -(c > 'z'));
     }
     return found != 0;
 }
@@ -69,33 +70,30 @@ const char* findByWords(const char* at, const char* end, char another) noexcept 
 }
 
 // Its constants take time to load, which short texts must not pay for by inlining.
-[[gnu::noinline]] const char* findByBlocks(const char* at, const char* end, char another) noexcept {
-    while (at != end) {
-        const char* const next = at + std::min<std::ptrdiff_t>(blockSize, end - at);
-        const bool isWhole = next - at == static_cast<std::ptrdiff_t>(blockSize);
-        if (!isWhole || blockMayHaveSyntax(at, another)) {
-            if (const char* found = findByWords(at, next, another); found != next) {
-                return found;
-            }
-        }
-        at = next;
+[[gnu::noinline]] const char* skipBlocks(const char* at, const char* end) noexcept {
+    while (end - at >= static_cast<std::ptrdiff_t>(blockSize) && !mayHaveQuoteOrBrace(at)) {
+        at += blockSize;
     }
-    return end;
+    return at;
 }
 
 } // namespace
 
 // Most texts between two marks are short, so blocks are worth their while only behind some bytes.
 std::size_t findSyntax(std::string_view text, std::size_t position, char another) noexcept {
-    constexpr std::ptrdiff_t shortText = 32;
-    const char* const begin = text.data() + position;
+    const bool skips = another == quote || another > 'z';
     const char* const end = text.data() + text.size();
-    const char* const soon = begin + std::min(shortText, end - begin);
-    const char* at = findByWords(begin, soon, another);
-    if (at == soon && soon != end) {
-        at = findByBlocks(soon, end, another);
+    const char* at = text.data() + position;
+    std::ptrdiff_t step = skips ? 32 : end - at;
+    for (;;) {
+        const char* const soon = at + std::min(step, end - at);
+        at = findByWords(at, soon, another);
+        if (at != soon || at == end) {
+            return static_cast<std::size_t>(at - text.data());
+        }
+        at = skipBlocks(at, end);
+        step = blockSize;
     }
-    return static_cast<std::size_t>(at - text.data());
 }
 
 } // namespace zem::msglib

@@ -58,7 +58,7 @@ private:
 class ExactFraction {
 public:
     explicit ExactFraction(double fraction) noexcept
-        : rest_(static_cast<std::uint64_t>(fraction * 0x1p50)) {}
+        : rest_(static_cast<std::uint64_t>(static_cast<std::int64_t>(fraction * 0x1p50))) {}
 
     bool isZero() const noexcept { return rest_ == 0; }
     char nextDigit() noexcept {
@@ -191,7 +191,7 @@ std::size_t roomBehind(std::size_t digits, const DigitLayout& layout) {
 } // namespace
 
 double roundingOf(int maximumFractionDigits) noexcept {
-    constexpr double usual[] = {1e-1 * 5.0, 1e-2 * 5.0, 1e-3 * 5.0, 1e-4 * 5.0, 1e-5 * 5.0};
+    static constexpr double usual[] = {1e-1 * 5.0, 1e-2 * 5.0, 1e-3 * 5.0, 1e-4 * 5.0, 1e-5 * 5.0};
     if (maximumFractionDigits >= 0 && maximumFractionDigits < static_cast<int>(std::size(usual))) {
         return usual[maximumFractionDigits];
     }

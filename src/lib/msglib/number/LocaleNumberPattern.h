@@ -2,6 +2,7 @@
 
 #include "msglib/NumberFormat.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -10,9 +11,9 @@ namespace zem::msglib {
 
 /// The parts of a number pattern that the platform's locale values give.
 struct LocaleNumberPattern {
-    unsigned int groupSize;      ///< 0: no groups
-    bool leadingZero;            ///< one integer digit is always written
-    unsigned int fractionDigits; ///< always written
+    std::size_t groupSize;      ///< 0: no groups
+    bool leadingZero;           ///< one integer digit is always written
+    std::size_t fractionDigits; ///< always written
 
     /// Tells whether the platform knows the locale; without it there are no values to ask for.
     static bool isAvailable() noexcept;

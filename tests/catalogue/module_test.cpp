@@ -1,6 +1,7 @@
 #include "MemoryTexts.h"
 #include "ProgramTexts.h"
 #include "message/Outcome.h"
+#include "msglib/DecimalFormat.h"
 #include "msglib/MessageLibrary.h"
 #include "support/Wine.h"
 
@@ -8,10 +9,13 @@
 #include <boost/config.hpp>
 #include <boost/dll/shared_library.hpp>
 
+#include <set>
 #include <stdexcept>
+#include <typeinfo>
 
-/// That of the shared library.
+/// Those of the shared library.
 extern "C" BOOST_SYMBOL_IMPORT unsigned int registerModule();
+extern "C" BOOST_SYMBOL_IMPORT void holdAngle(double radians, boost::any& argument);
 
 namespace zem::msglib {
 namespace {
@@ -63,6 +67,28 @@ TEST(Modules, SharedLibraryAndPlugInCarryTheirs) {
     library.registerFacility(ofPlugIn >> 16 & 0x7FF, reinterpret_cast<void*>(&registerPlugIn));
     EXPECT_THROW(library.registerFacility(ofPlugIn >> 16 & 0x7FF, nullptr), std::invalid_argument);
     EXPECT_EQ(outcomeAtOnce(ofPlugIn, {1}), "Plug-in 1\n");
+}
+
+// The modules hide what they don't export, so each has a type identity of its own for an angle.
+TEST(Modules, AnglesOfAllModulesAreAngles) {
+    const boost::dll::shared_library plugIn(PLUG_IN);
+    boost::any ofSharedLibrary;
+    boost::any ofPlugIn;
+    holdAngle(1.0, ofSharedLibrary);
+    plugIn.get<void(double, boost::any&)>("holdAngle")(1.0, ofPlugIn);
+    const std::set<const std::type_info*> identities = {&typeid(geom::Angle),
+                                                        &ofSharedLibrary.type(), &ofPlugIn.type()};
+    ASSERT_EQ(identities.size(), 3U) << "modules share an identity";
+
+    for (const boost::any& angle : {boost::any(geom::Angle(1.0)), ofSharedLibrary, ofPlugIn}) {
+        EXPECT_EQ(textOf(DecimalFormat("0.000", {}), angle), "57.296");
+        expectOutcomes({
+            {__LINE__, "[{0}] [{0,foo}]", {angle}, "[] []"},
+            {__LINE__, "{0,number,0.000} {0,choice,0#low|57#high}", {angle}, "57.296 high"},
+            {__LINE__, "{0,number} {0,number,integer}", {angle}, "57.30 57"},
+            {__LINE__, "{0,date}", {angle}, "!" + notADate},
+        });
+    }
 }
 
 } // namespace

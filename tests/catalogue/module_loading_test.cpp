@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#define BOOST_DLL_USE_STD_FS
+#include <boost/dll/shared_library.hpp>
+
+#include <link.h>
+#include <malloc.h>
+
+#include <string>
+
+namespace {
+
+// This program isn't linked with the library: it comes and goes with a plug-in that is.
+std::size_t loadedModules() {
+    std::size_t count = 0;
+    dl_iterate_phdr(
+        [](dl_phdr_info*, std::size_t, void* counted) {
+            ++*static_cast<std::size_t*>(counted);
+            return 0;
+        },
+        &count);
+    return count;
+}
+
+std::string renderByPlugIn() {
+    const boost::dll::shared_library plugIn(PLUG_IN);
+    plugIn.get<unsigned int()>("registerModule")();
+    std::string text;
+    plugIn.get<void(int, std::string&)>("renderMessage")(7, text);
+    return text + std::to_string(loadedModules());
+}
+
+// `modules` come with the plug-in each time, and have to go with it.
+void expectNothingLeft(std::size_t modules) {
+    constexpr std::size_t rounds = 1000;
+    const std::size_t others = loadedModules();
+    const std::string expected = "Plug-in 7\n" + std::to_string(others + modules);
+    std::size_t held = 0;
+    for (std::size_t round = 0; round < 2 * rounds; ++round) {
+        if (round == rounds) {
+            held = mallinfo2().uordblks;
+        }
+        ASSERT_EQ(renderByPlugIn(), expected) << "round " << round;
+        ASSERT_EQ(loadedModules(), others) << "round " << round;
+    }
+    EXPECT_LT(mallinfo2().uordblks, held + rounds) << "bytes are lost in each round";
+}
+
+TEST(ModuleLoading, PlugInBringsTheLibraryAndTakesItAlong) {
+    expectNothingLeft(2);
+}
+
+TEST(ModuleLoading, PlugInLeavesTheLibraryLoaded) {
+    const boost::dll::shared_library library(LIBRARY);
+    expectNothingLeft(1);
+}
+
+} // namespace

@@ -2,6 +2,7 @@
 
 include_guard(GLOBAL)
 include(CheckCXXSourceRuns)
+include(MsglibHardening)
 
 # Every digit that the library writes follows from plain binary64 arithmetic, so a compiler that keeps more precision,
 # contracts a*b+c or assumes away NaN would change texts.
@@ -37,7 +38,7 @@ endfunction()
 include(CheckIPOSupported)
 check_ipo_supported(RESULT MSGLIB_LINK_TIME_OPTIMISATION OUTPUT ignored LANGUAGES CXX)
 
-# Gives a target of this project its warnings and sanitizers, and hides what it does not export.
+# Gives a target of this project its warnings, its hardening or sanitizers, and hides what it does not export.
 function(msglib_own_target target)
     set_target_properties(${target} PROPERTIES
         CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
@@ -46,7 +47,9 @@ function(msglib_own_target target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         $<$<BOOL:${MSGLIB_WERROR}>:-Werror>
-        ${MSGLIB_ARITHMETIC_OPTIONS})
+        ${MSGLIB_ARITHMETIC_OPTIONS}
+        ${MSGLIB_HARDENING_COMPILE_OPTIONS})
+    target_link_options(${target} PRIVATE ${MSGLIB_HARDENING_LINK_OPTIONS})
     if(MSGLIB_SANITIZE)
         target_compile_options(${target} PRIVATE
             -fsanitize=${MSGLIB_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

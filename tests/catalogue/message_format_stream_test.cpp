@@ -15,10 +15,8 @@ using Stream = MessageFormatStream;
 TEST(MessageFormatStream, KeepsTheTypeOfEachArgument) {
     EXPECT_EQ((Stream("{0}") << 'x').toString(), "x");
     EXPECT_EQ((Stream("{0}{1}") << -7 << true).toString(), "-71");
-    EXPECT_EQ((Stream("{0}") << -2147483647L).toString(), "-2,147,483,647");
-    EXPECT_EQ((Stream("{0}") << -5'000'000'000LL).toString(), "-5,000,000,000");
-    EXPECT_EQ((Stream("{0}") << 4294967295U).toString(), "4,294,967,295");
-    EXPECT_EQ((Stream("{0}") << 4294967295UL).toString(), "4,294,967,295");
+    EXPECT_EQ((Stream("{0} {1}") << -7L << -5'000'000'000LL).toString(), "-7 -5,000,000,000");
+    EXPECT_EQ((Stream("{0} {1}") << 4294967295U << 7UL).toString(), "4,294,967,295 7");
     EXPECT_EQ((Stream("{0,choice,0#small|1e18#huge}") << (1ULL << 63)).toString(), "huge");
     EXPECT_EQ((Stream("{0}{1}") << 7.0 << 0.5F).toString(), "7.000.50");
     EXPECT_EQ((Stream("{0}{1}") << "a\0b"s.c_str() << "c"s).toString(), "ac");

@@ -5,9 +5,7 @@
 #include "msglib/MessageLibrary.h"
 #include "support/Wine.h"
 
-#define BOOST_DLL_USE_STD_FS
 #include <boost/config.hpp>
-#include <boost/dll/shared_library.hpp>
 
 #include <set>
 #include <stdexcept>

@@ -1,9 +1,17 @@
 #pragma once
 
+#define BOOST_DLL_USE_STD_FS
+#include <boost/dll/shared_library.hpp>
+
 namespace zem::msglib {
 
 /// Tells whether this program runs under Wine, some of whose operations differ from what the
 /// operating system publishes.
-bool runsUnderWine();
+inline bool runsUnderWine() {
+    std::error_code error;
+    const boost::dll::shared_library system("ntdll.dll", error,
+                                            boost::dll::load_mode::search_system_folders);
+    return system.is_loaded() && system.has("wine_get_version");
+}
 
 } // namespace zem::msglib

@@ -38,6 +38,11 @@ TEST(DecimalFormat, WritesNumbersAtTheirEdges) {
     EXPECT_EQ(write("0", 0.49999999999999994), "1");
     EXPECT_EQ(write("0.0E0%", -1e307), "-1.#INF%");
     EXPECT_EQ(write("000.#E0", 5e-324), "494.1E-326");
+    DecimalFormat format("#,##0", {});
+    format.setGroupingUsed(false);
+    EXPECT_EQ(textOf(format, 12345L), "12345");
+    format.setMaximumIntegerDigits(3);
+    EXPECT_EQ(textOf(format, 12345L) + textOf(format, 1e23), "345002");
 }
 
 using Setter = void (NumberFormat::*)(int);

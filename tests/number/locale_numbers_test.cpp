@@ -193,8 +193,12 @@ TEST(LocalePatterns, WithoutLocaleValues) {
         FakeLocale::installed = false;
         EXPECT_EQ(formOf(row.factory), row.absent);
         FakeLocale::installed = true;
-        FakeLocale::values.erase(LOCALE_STHOUSAND);
-        EXPECT_NE(formOf(row.factory), row.failing);
+        const LocaleValues all = FakeLocale::values;
+        for (const auto& value : all) {
+            FakeLocale::values.erase(value.first);
+            EXPECT_NE(formOf(row.factory), row.failing) << value.first;
+            FakeLocale::values = all;
+        }
         FakeLocale::values.clear();
         EXPECT_EQ(formOf(row.factory), row.failing);
     }

@@ -14,10 +14,10 @@ void RunRenderer::append(PictureOperation operation, char letter, std::size_t le
         grow(write(operation, picture, nullptr, 0))) {
         written = write(operation, picture, buffer(), size());
     }
-    if (written != 0) {
-        const char* const text = buffer();
-        const auto end = std::find(text, text + written, '\0');
-        out.append(text, static_cast<std::size_t>(end - text));
+    // Runs are short and fresh in memory, which block operations would have to wait for.
+    const char* at = buffer();
+    for (; written > 0 && *at != '\0'; --written) {
+        out.push_back(*at++);
     }
 }
 

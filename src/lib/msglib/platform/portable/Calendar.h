@@ -21,6 +21,8 @@ constexpr std::uint32_t eraDays = 146097;
 constexpr std::uint32_t eraStartYear = 1600;
 constexpr std::uint32_t eraStartToDayZero = 306;
 
+constexpr std::uint32_t monthDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+
 /// A day of the calendar; month and day count from 1.
 struct CalendarDate {
     std::uint32_t year;
@@ -30,7 +32,6 @@ struct CalendarDate {
 
 /// Tells whether the year is in range and the calendar has the day.
 constexpr bool isCalendarDate(const CalendarDate& date) noexcept {
-    constexpr std::uint32_t monthDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     if (date.year < firstYear || date.year > lastYear || date.month < 1 || date.month > 12) {
         return false;
     }

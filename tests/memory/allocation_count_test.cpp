@@ -50,6 +50,8 @@ TEST(AllocationCount, MessagesAtOnceNeedNoneBesideTheirText) {
         {__LINE__, "{0} or {0,number,percent} in a sentence", 0.25},
         {__LINE__, "{0,date}, {0,date,short}, {0,date,medium}, {0,time}", 1000000000},
         {__LINE__, "{0,date,full} with some more words behind it", 1000000000},
+        {__LINE__, "{0,date,yyyy-MM-dd 'at' HH:mm} and {0,number,#,##0.0##;(#)}", 1000000000},
+        {__LINE__, "{0,choice,0#no file|1#one file|1<{0,number,integer} files} copied", 1234},
     };
     for (const Row& row : rows) {
         const std::list<boost::any> args = {row.argument};

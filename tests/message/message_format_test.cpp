@@ -46,6 +46,18 @@ TEST(MessagePattern, Placeholders) {
     });
 }
 
+// Texts are searched in blocks and words, for which bytes above "z" look much like braces.
+TEST(MessagePattern, SyntaxAtAnyDistance) {
+    for (const char byte : {'z', '~', '|', '\xC3'}) {
+        for (std::size_t distance = 0; distance < 300; ++distance) {
+            const std::string text(distance, byte == '|' ? 'a' : byte);
+            ASSERT_EQ(outcome(std::string(distance, byte) + "{0}'{'", {"x"s}),
+                      std::string(distance, byte) + "x{");
+            ASSERT_EQ(outcome("{0,choice,0#" + text + "{0}|1#b}" + text, {0}), text + "0" + text);
+        }
+    }
+}
+
 TEST(MessagePattern, CompileFailures) {
     for (const char* pattern : {"{0}}", "'{'0}", "{0}'}"}) {
         EXPECT_EQ(outcome(pattern, {0}), "compile!" + unexpectedBrace) << pattern;

@@ -46,6 +46,18 @@ TEST(WideCharToMultiByteTest, ConvertsAndMeasures) {
     }
 }
 
+TEST(WideCharToMultiByteTest, ConvertsAnyUnitAnywhere) {
+    constexpr std::size_t length = 20;
+    for (std::size_t position = 0; position < length; ++position) {
+        std::u16string text(length, u'a');
+        text[position] = u'\u00E9';
+        std::string bytes(length + 1, '#');
+        EXPECT_EQ(convert(text, bytes.data(), length + 1), static_cast<int>(length) + 1);
+        EXPECT_EQ(bytes, std::string(position, 'a') + "\xC3\xA9" +
+                             std::string(length - position - 1, 'a'));
+    }
+}
+
 TEST(WideCharToMultiByteTest, RefusesWhatIsNoText) {
     char output[8];
     EXPECT_EQ(convert(u"", output, 8), 0);

@@ -1,51 +1,23 @@
 #include "base/Scanning.h"
 
 #include <algorithm>
-#include <cstdint>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace zem::msglib {
 
 namespace {
 
-constexpr std::size_t blockSize = 128;
-constexpr std::size_t wordSize = sizeof(std::uint64_t);
-constexpr std::uint64_t everyByte = 0x0101010101010101;
-
-// The same on every machine: the first byte is the lowest. Compilers make one load of it.
-std::uint64_t wordAt(const char* at) noexcept {
-    const auto byte = [at](int index) {
-        return std::uint64_t{static_cast<unsigned char>(at[index])} << 8 * index;
-    };
-    return byte(0) | byte(1) | byte(2) | byte(3) | byte(4) | byte(5) | byte(6) | byte(7);
-}
-
-// Has the highest bit of the lowest byte that is `mark`, and none below it; what is above doesn't
-// count. After "Determine if a word has a byte equal to n" of Sean Anderson's Bit Twiddling Hacks.
-constexpr std::uint64_t marked(std::uint64_t word, char mark) noexcept {
-    const std::uint64_t differing = word ^ everyByte * static_cast<unsigned char>(mark);
-    return (differing - everyByte) & ~differing & everyByte << 7;
-}
-
-constexpr std::uint64_t markedSyntax(std::uint64_t word, char another) noexcept {
-    return marked(word, quote) | marked(word, '{') | marked(word, '}') | marked(word, another);
-}
-
-// The number of bytes below the lowest bit that is set.
-std::size_t bytesBelow(std::uint64_t bits) noexcept {
-#if defined(__GNUC__)
-    return static_cast<std::size_t>(__builtin_ctzll(bits)) / 8;
-#else
-    const std::uint64_t lowest = bits >> 7;
-    return ((lowest - 1) & ~lowest & everyByte) * everyByte >> 56;
-#endif
-}
+constexpr std::ptrdiff_t blockSize = 128;
 
 // Tells whether a block may have quotes or braces: every brace is above "z", and hardly anything
 // else is. Of a fixed length and without an early exit, so that the compiler tests many bytes at
 // once.
 bool mayHaveQuoteOrBrace(const char* block) noexcept {
     signed char found = 0;
-    for (std::size_t i = 0; i < blockSize; ++i) {
+    for (std::ptrdiff_t i = 0; i < blockSize; ++i) {
         const auto c = static_cast<signed char>(block[i]);
         found = static_cast<signed char>(found | -(c == quote) | -(c > 'z'));
     }
@@ -59,41 +31,73 @@ const char* findByBytes(const char* at, const char* end, char another) noexcept 
     return at;
 }
 
-// Returns the first syntax in whole words of [at, end), or where what is left is no whole word.
-const char* findByWords(const char* at, const char* end, char another) noexcept {
-    for (; end - at >= static_cast<std::ptrdiff_t>(wordSize); at += wordSize) {
-        if (const std::uint64_t bits = markedSyntax(wordAt(at), another)) {
-            return at + bytesBelow(bits);
+#if defined(__SSE2__)
+
+constexpr std::ptrdiff_t vectorSize = 16;
+
+// Returns a bit for each byte of a vector, the lowest for the first, that is set for syntax.
+unsigned int syntaxIn(const char* vector, char another) noexcept {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(vector));
+    const auto are = [bytes](char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
+    const __m128i found =
+        _mm_or_si128(_mm_or_si128(are('{'), are('}')), _mm_or_si128(are(quote), are(another)));
+    return static_cast<unsigned int>(_mm_movemask_epi8(found));
+}
+
+// Finds the first syntax of a text from `at` on. What is no whole vector at its end is part of one
+// that begins earlier.
+const char* findIn(std::string_view text, const char* at, const char* end, char another) noexcept {
+    for (; end - at >= vectorSize; at += vectorSize) {
+        if (const unsigned int found = syntaxIn(at, another)) {
+            return at + __builtin_ctz(found);
         }
     }
+    if (end - text.data() < vectorSize) {
+        return findByBytes(at, end, another);
+    }
+    const unsigned int found = syntaxIn(end - vectorSize, another) >> (vectorSize - (end - at));
+    return found != 0 ? at + __builtin_ctz(found) : end;
+}
+
+#else
+
+const char* findIn(std::string_view, const char* at, const char* end, char another) noexcept {
     return findByBytes(at, end, another);
 }
 
+#endif
+
 // Its constants take time to load, which short texts must not pay for by inlining.
-[[gnu::noinline]] const char* skipBlocks(const char* at, const char* end) noexcept {
-    while (end - at >= static_cast<std::ptrdiff_t>(blockSize) && !mayHaveQuoteOrBrace(at)) {
-        at += blockSize;
+[[gnu::noinline]] const char* findByBlocks(std::string_view text, const char* at, const char* end,
+                                           char another) noexcept {
+    while (end - at > blockSize) {
+        const char* const next = at + blockSize;
+        if (mayHaveQuoteOrBrace(at)) {
+            const char* const found = findIn(text, at, next, another);
+            if (found != next) {
+                return found;
+            }
+        }
+        at = next;
     }
-    return at;
+    return findIn(text, at, end, another);
 }
 
 } // namespace
 
 // Most texts between two marks are short, so blocks are worth their while only behind some bytes.
 std::size_t findSyntax(std::string_view text, std::size_t position, char another) noexcept {
-    const bool skips = another == quote || another > 'z';
+    constexpr std::ptrdiff_t shortText = 32;
     const char* const end = text.data() + text.size();
-    const char* at = text.data() + position;
-    std::ptrdiff_t step = skips ? 32 : end - at;
-    for (;;) {
-        const char* const soon = at + std::min(step, end - at);
-        at = findByWords(at, soon, another);
-        if (at != soon || at == end) {
-            return static_cast<std::size_t>(at - text.data());
-        }
-        at = skipBlocks(at, end);
-        step = blockSize;
+    const char* const begin = text.data() + position;
+    const char* const soon = begin + std::min(shortText, end - begin);
+    const char* at = findIn(text, begin, soon, another);
+    if (at == soon && soon != end) {
+        const bool blocksTellIt = another == quote || another > 'z';
+        at = blocksTellIt ? findByBlocks(text, soon, end, another)
+                          : findIn(text, soon, end, another);
     }
+    return static_cast<std::size_t>(at - text.data());
 }
 
 } // namespace zem::msglib

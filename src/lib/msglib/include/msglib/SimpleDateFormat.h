@@ -55,8 +55,8 @@ private:
 
     static void render(std::string_view pattern, const boost::any& value, std::string& out);
 
-    static constexpr std::string_view datePatternChars_ = "dMyg";
-    static constexpr std::string_view timePatternChars_ = "hHmst";
+    static const std::string_view datePatternChars_;
+    static const std::string_view timePatternChars_;
 
     std::string pattern_;
     std::locale locale_;

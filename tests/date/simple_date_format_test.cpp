@@ -28,7 +28,7 @@ TEST(SimpleDateFormat, Patterns) {
     } const rows[] = {
         {__LINE__, iso, 86399, "1970-01-01 23:59:59"},
         {__LINE__, "ddMMyyy g gg", 1000000000, "09092001 A.D. A.D.", "09092001 AD ADAD"},
-        {__LINE__, "MMMM" + std::string(300, 'd'), 0, "JanuaryThursday"},
+        {__LINE__, "MMMM" + std::string(100, 'd'), 0, "JanuaryThursday"},
         {__LINE__, "YYYY DaSTzGE 0{}#,\xC3\xA9", 5, "YYYY DaSTzGE 0{}#,\xC3\xA9"},
         {__LINE__, "s\0s"s, 5, "5\0"s + "5"},
         {__LINE__, "d''d'''d''''d'd", 0, "11'd''d1"},

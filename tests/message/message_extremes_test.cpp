@@ -2,6 +2,7 @@
 #include "msglib/ChoiceFormat.h"
 #include "msglib/DecimalFormat.h"
 #include "msglib/SimpleDateFormat.h"
+#include "support/Wine.h"
 
 #include <pthread.h>
 
@@ -103,8 +104,10 @@ TEST(Extremes, LongPatterns) {
     const std::string zeros(mebibyte, '0');
     const std::string opening(100'000, '{');
     const std::string closing(100'000, '}');
-    EXPECT_TRUE(asDate(std::string(mebibyte, 'd')) == "Thursday");
-    EXPECT_TRUE(asDate(std::string(mebibyte, 'g')) == "A.D.");
+    if (!runsUnderWine()) { // which takes long runs for shorter ones
+        EXPECT_TRUE(asDate(std::string(mebibyte, 'd')) == "Thursday");
+        EXPECT_TRUE(asDate(std::string(mebibyte, 'g')) == "A.D.");
+    }
     EXPECT_TRUE(asDecimal(letters + "0.00" + letters) == letters + "7.25" + letters);
     EXPECT_TRUE(asChoice(letters + "#" + times(mebibyte / 4, "'|' ")) == times(mebibyte / 4, "| "));
     EXPECT_TRUE(asChoice("0#" + letters + "|9#" + letters) == letters);

@@ -38,7 +38,6 @@ TEST(Threads, RenderAtOnce) {
         return wrong;
     };
     std::vector<std::future<int>> threads;
-    threads.reserve(threadCount);
     for (int number = 0; number < threadCount; ++number) {
         threads.push_back(std::async(std::launch::async, render, number));
     }

@@ -53,7 +53,7 @@ TEST(MessagePattern, SyntaxAtAnyDistance) {
             const std::string text(distance, byte == '|' ? 'a' : byte);
             ASSERT_EQ(outcome(std::string(distance, byte) + "{0}'{'", {"x"s}),
                       std::string(distance, byte) + "x{");
-            ASSERT_EQ(outcome("{0,choice,0#" + text + "{0}|1#b}" + text, {0}), text + "0" + text);
+            ASSERT_EQ(outcome("{0,choice,0#" + text + "{0}|1#b}", {0}), text + "0");
         }
     }
 }

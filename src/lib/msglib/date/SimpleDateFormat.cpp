@@ -41,8 +41,8 @@ std::size_t appendQuoted(std::string_view pattern, std::size_t pos, std::string&
 } // namespace
 
 // Not inline, since a library with inline variables can't be unloaded.
-constexpr std::string_view SimpleDateFormat::datePatternChars_ = "dMyg";
-constexpr std::string_view SimpleDateFormat::timePatternChars_ = "hHmst";
+const std::string_view SimpleDateFormat::datePatternChars_ = "dMyg";
+const std::string_view SimpleDateFormat::timePatternChars_ = "hHmst";
 
 SimpleDateFormat::SimpleDateFormat(const std::string& pattern, const std::locale& locale)
     : pattern_(pattern),

@@ -54,9 +54,9 @@ constexpr std::uint32_t daysOfDate(const CalendarDate& date) noexcept {
 
 /// Returns the date that lies `days` days, at most a billion, behind 1601-01-01.
 ///
-/// Where the divisor is a fixed number of quarters of a day, one multiplication gives quotient and
-/// remainder; by "Euclidean affine functions and their application to calendar algorithms" of
-/// Cassio Neri and Lorenz Schneider.
+/// Years and months are found by multiplications that give quotient and remainder at once; by
+/// "Euclidean affine functions and their application to calendar algorithms" of Cassio Neri and
+/// Lorenz Schneider.
 constexpr CalendarDate dateOfDays(std::uint32_t days) noexcept {
     const std::uint32_t quarters = 4 * (days + eraStartToDayZero) + 3;
     const std::uint32_t century = quarters / eraDays;

@@ -35,9 +35,9 @@ public:
 
     void append(std::string_view text) noexcept {
         const std::size_t room = length_ < size_ ? size_ - length_ : 0;
-        char* at = buffer_ + length_;
+        std::size_t at = length_;
         for (const char byte : text.substr(0, room)) {
-            *at++ = byte;
+            buffer_[at++] = byte;
         }
         length_ += text.size();
     }

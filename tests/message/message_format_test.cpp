@@ -58,6 +58,16 @@ TEST(MessagePattern, SyntaxAtAnyDistance) {
     }
 }
 
+TEST(MessagePattern, ChoicesInChoices) {
+    std::string pattern = "x";
+    std::string text = "x";
+    for (int depth = 1; depth < 12; ++depth) {
+        pattern.insert(0, "a{0,choice,0#").append("}b");
+        text.insert(0, "a").append("b");
+        EXPECT_EQ(outcome(pattern, {0}), text);
+    }
+}
+
 TEST(MessagePattern, CompileFailures) {
     for (const char* pattern : {"{0}}", "'{'0}", "{0}'}"}) {
         EXPECT_EQ(outcome(pattern, {0}), "compile!" + unexpectedBrace) << pattern;

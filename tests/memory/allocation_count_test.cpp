@@ -48,6 +48,7 @@ TEST(AllocationCount, MessagesAtOnceNeedNoneBesideTheirText) {
         {__LINE__, "{0} and '{'{0}'}', {0,unknown}, it''s {0}", "text"s},
         {__LINE__, "{0}, {0,number}, {0,number,integer}, {0,number,currency}", 1234},
         {__LINE__, "{0} or {0,number,percent} in a sentence", 0.25},
+        {__LINE__, "{0} in a sentence", -1234},
         {__LINE__, "{0,date}, {0,date,short}, {0,date,medium}, {0,time}", 1000000000},
         {__LINE__, "{0,date,full} with some more words behind it", 1000000000},
         {__LINE__, "{0,date,yyyy-MM-dd 'at' HH:mm} and {0,number,#,##0.0##;(#)}", 1000000000},

@@ -1,9 +1,9 @@
 #include "message/DirectRenderer.h"
 
+#include "base/Extraction.h"
 #include "message/PatternText.h"
 #include "message/PlaceholderRenderer.h"
 #include "message/PlaceholderStyle.h"
-#include "message/PlainPlaceholder.h"
 #include "number/ChoiceReader.h"
 #include "number/NumberArgument.h"
 
@@ -50,26 +50,38 @@ bool DirectRenderer::renderMessage(std::string_view pattern) {
 // Renders the placeholder whose index begins at `position` and returns where the text behind it
 // begins.
 std::size_t DirectRenderer::renderPlaceholder(std::string_view pattern, std::size_t position) {
-    PlainPlaceholder placeholder;
-    position = readPlainPlaceholder(pattern, position, placeholder);
-    if (position == nowhere) {
+    int index = 0;
+    const std::size_t digits = readDigits(pattern, position, index);
+    position += digits;
+    if (digits == 0) {
         return nowhere;
     }
-    const boost::any& argument = arguments_.at(placeholder.index);
-    if (placeholder.type.empty()) {
+    const boost::any& argument = arguments_.at(index);
+    if (holdsAt(pattern, position, '}')) {
         PlaceholderRenderer::appendByKind(argument, out_);
-        return position;
+        return position + 1;
     }
-    return renderTyped(placeholder, argument) ? position : nowhere;
+    return holdsAt(pattern, position, ',') ? renderTyped(pattern, position + 1, argument) : nowhere;
 }
 
-bool DirectRenderer::renderTyped(const PlainPlaceholder& placeholder, const boost::any& argument) {
-    const PlaceholderStyle style = placeholderStyle(placeholder.type, placeholder.style);
-    if (style == PlaceholderStyle::Choice) {
-        return renderChoice(placeholder.style, argument);
+// The same from the type on.
+std::size_t DirectRenderer::renderTyped(std::string_view pattern, std::size_t position,
+                                        const boost::any& argument) {
+    JoinedPieces type;
+    JoinedPieces style;
+    position = scanElement(pattern, position, ',', type);
+    if (holdsAt(pattern, position, ',')) {
+        position = scanElement(pattern, position + 1, '}', style);
     }
-    PlaceholderRenderer::appendByStyle(style, placeholder.style, argument, out_);
-    return true;
+    if (!holdsAt(pattern, position, '}')) {
+        return nowhere;
+    }
+    const PlaceholderStyle wanted = placeholderStyle(type.text(), style.text());
+    if (wanted != PlaceholderStyle::Choice) {
+        PlaceholderRenderer::appendByStyle(wanted, style.text(), argument, out_);
+        return position + 1;
+    }
+    return renderChoice(style.text(), argument) ? position + 1 : nowhere;
 }
 
 // The text that a choice picks is a message for the same arguments.
@@ -77,9 +89,9 @@ bool DirectRenderer::renderChoice(std::string_view style, const boost::any& argu
     if (style.empty() || depth_ == deepest) {
         return false;
     }
-    const auto text = chooseText(style, readNumber(argument));
+    const JoinedPieces text = chooseText(style, readNumber(argument));
     ++depth_;
-    const bool rendered = text && renderMessage(*text);
+    const bool rendered = renderMessage(text.text());
     --depth_;
     return rendered;
 }

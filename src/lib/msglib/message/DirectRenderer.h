@@ -11,14 +11,12 @@
 
 namespace zem::msglib {
 
-struct PlainPlaceholder;
-
 /// Renders a pattern as it is read, without a compiled form. It borrows the arguments and the
 /// string that it appends to.
 ///
-/// What is out of the ordinary it leaves to `MessageRenderer`: quotes inside a placeholder, an
-/// index that is more than digits, deep nesting, and all that fails, since the first failure of a
-/// pattern counts only if all of it compiles.
+/// What is out of the ordinary it leaves to `MessageRenderer`: an index that is more than digits,
+/// deep nesting, and all that fails, since the first failure of a pattern counts only if all of it
+/// compiles.
 class DirectRenderer {
 public:
     DirectRenderer(const std::list<boost::any>& args, std::string& out) noexcept
@@ -34,7 +32,8 @@ public:
 private:
     bool renderMessage(std::string_view pattern);
     std::size_t renderPlaceholder(std::string_view pattern, std::size_t position);
-    bool renderTyped(const PlainPlaceholder& placeholder, const boost::any& argument);
+    std::size_t renderTyped(std::string_view pattern, std::size_t position,
+                            const boost::any& argument);
     bool renderChoice(std::string_view style, const boost::any& argument);
 
     ArgumentCursor arguments_;

@@ -40,19 +40,19 @@ bool ChoiceSearch::takes(double limit) noexcept {
     return true;
 }
 
-std::optional<std::string_view> chooseText(std::string_view pattern, double value) {
+JoinedPieces chooseText(std::string_view pattern, double value) {
     ChoiceReader reader(pattern);
     ChoiceSearch search(value);
-    SinglePiece chosen;
+    JoinedPieces chosen;
     for (bool more = true; more;) {
-        const bool takes = search.takes(reader.readLimit());
-        SinglePiece text;
-        more = reader.readText(text);
-        if (takes) {
-            chosen = text;
+        if (search.takes(reader.readLimit())) {
+            chosen = JoinedPieces();
+            more = reader.readText(chosen);
+        } else {
+            more = reader.readText([](std::string_view) {});
         }
     }
-    return chosen.isWhole() ? std::optional(chosen.text()) : std::nullopt;
+    return chosen;
 }
 
 } // namespace zem::msglib

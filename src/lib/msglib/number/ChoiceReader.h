@@ -3,7 +3,6 @@
 #include "base/Scanning.h"
 
 #include <cstddef>
-#include <optional>
 #include <string_view>
 
 namespace zem::msglib {
@@ -44,11 +43,11 @@ private:
     bool settled_ = false;
 };
 
-/// Returns the text that a `ChoiceFormat` of `pattern` chooses for `value`, if it lies in `pattern`
-/// as it is; nothing if there are quotes in it.
+/// Returns the text that a `ChoiceFormat` of `pattern` chooses for `value`; it may lie in
+/// `pattern`.
 ///
 /// @throws std::runtime_error "Syntax error in choice format."
-std::optional<std::string_view> chooseText(std::string_view pattern, double value);
+JoinedPieces chooseText(std::string_view pattern, double value);
 
 template <class Sink>
 bool ChoiceReader::readText(Sink&& sink) {

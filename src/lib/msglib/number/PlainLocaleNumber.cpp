@@ -4,6 +4,7 @@
 #include "number/DigitWriter.h"
 #include "number/LocaleNumberPattern.h"
 
+#include <cmath>
 #include <limits>
 
 namespace zem::msglib {
@@ -57,14 +58,29 @@ bool appendAmount(double x, const LocaleNumberPattern& pattern, const Symbols& s
     return true;
 }
 
+// Returns the form around the digits, such as ";-#"; nothing for amounts, whose sign and currency
+// mark only a formatter puts together.
+std::string_view formOf(bool negative, NumberFormat::FormatType type) noexcept {
+    if (type == NumberFormat::Currency) {
+        return {};
+    }
+    if (negative) {
+        return localeNegativePattern(type);
+    }
+    return type == NumberFormat::Percent ? ";#%" : ";#";
+}
+
 } // namespace
 
 bool appendPlainLocaleNumber(double value, NumberFormat::FormatType type, std::string& out) {
-    if (!(value >= 0.0) || !LocaleNumberPattern::isAvailable()) {
+    const bool negative = value < 0.0;
+    const std::string_view form = formOf(negative, type);
+    if (std::isnan(value) || (negative && form.empty()) || !LocaleNumberPattern::isAvailable()) {
         return false;
     }
     const LocaleNumberPattern pattern = LocaleNumberPattern::of(type);
-    const double scaled = type == NumberFormat::Percent ? value * 100 : value;
+    const double magnitude = negative ? -value : value;
+    const double scaled = type == NumberFormat::Percent ? magnitude * 100 : magnitude;
     const double x = scaled + roundingOf(static_cast<int>(pattern.fractionDigits));
     const Symbols symbols(type == NumberFormat::Currency);
     if (x == std::numeric_limits<double>::infinity() || !symbols.areFound()) {
@@ -73,10 +89,10 @@ bool appendPlainLocaleNumber(double value, NumberFormat::FormatType type, std::s
     if (type == NumberFormat::Currency) {
         return appendAmount(x, pattern, symbols, out);
     }
+    const std::size_t digits = form.find('#');
+    out += form.substr(1, digits - 1);
     appendDigits(x, pattern, symbols, out);
-    if (type == NumberFormat::Percent) {
-        out.push_back('%');
-    }
+    out += form.substr(digits + 1);
     return true;
 }
 

@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::size_t nowhere = std::string_view::npos;
 
+// Choices nest on the machine stack here, and each level reads those inside it once more.
 constexpr int deepest = 8;
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "base/TextOutput.h"
 #include "number/LocaleNumberFormat.h"
 #include "platform/LocaleServices.h"
 #include "support/FakeLocale.h"
@@ -112,10 +113,10 @@ std::string formOf(Factory factory) {
     for (const double value :
          {0.0, 0.5, 4.005, 1234567.891, 1e23, 1e307, -1234.5, HUGE_VAL, std::nan("")}) {
         std::string text = "kept";
-        LocaleNumberFormat::append(type, value, text);
+        TextOutput::to(text, [&](auto& out) { LocaleNumberFormat::append(type, value, out); });
         EXPECT_EQ(text, "kept" + textOf(*format, value)) << value;
         text = "kept";
-        LocaleNumberFormat::appendRounded(value, text);
+        TextOutput::to(text, [&](auto& out) { LocaleNumberFormat::appendRounded(value, out); });
         EXPECT_EQ(text, "kept" + textOf(*rounded, value)) << value;
     }
     return dump(*format);

@@ -1,5 +1,6 @@
 #include "date/RunRenderer.h"
 
+#include "base/TextOutput.h"
 #include "platform/LastError.h"
 
 #include <algorithm>
@@ -7,18 +8,27 @@
 namespace zem::msglib {
 
 void RunRenderer::append(PictureOperation operation, char letter, std::size_t length,
-                         std::string& out) {
+                         TextOutput& out) {
     const char* picture = pictureOf(letter, length);
-    int written = write(operation, picture, buffer(), size());
-    if (written == 0 && platform::GetLastError() == platform::ERROR_INSUFFICIENT_BUFFER &&
+    if (!write(operation, picture, out) &&
+        platform::GetLastError() == platform::ERROR_INSUFFICIENT_BUFFER &&
         grow(write(operation, picture, nullptr, 0))) {
-        written = write(operation, picture, buffer(), size());
+        write(operation, picture, out);
     }
-    // Runs are short and fresh in memory, which block operations would have to wait for.
-    const char* at = buffer();
-    for (; written > 0 && *at != '\0'; --written) {
-        out.push_back(*at++);
+}
+
+// As long as the first size is enough, the platform writes to where the text goes.
+bool RunRenderer::write(PictureOperation operation, const char* picture, TextOutput& out) {
+    const bool isFirst = grown_.empty();
+    char* const buffer = isFirst ? out.room(firstSize) : grown_.data();
+    const int written = write(operation, picture, buffer, size());
+    char* const end = std::find(buffer, buffer + std::max(written, 0), '\0');
+    if (isFirst) {
+        out.advanceTo(end);
+    } else {
+        out.append({buffer, static_cast<std::size_t>(end - buffer)});
     }
+    return written != 0;
 }
 
 const char* RunRenderer::pictureOf(char letter, std::size_t length) {

@@ -8,6 +8,8 @@
 
 namespace zem::msglib {
 
+class TextOutput;
+
 /// Writes runs of one letter through the platform, all into one buffer that grows when the platform
 /// asks for more.
 class RunRenderer {
@@ -17,20 +19,21 @@ public:
     explicit RunRenderer(const platform::SYSTEMTIME& time) noexcept : time_(time) {}
 
     /// Appends the text of `length` times `letter`; nothing for a run that the platform refuses.
-    void append(PictureOperation operation, char letter, std::size_t length, std::string& out);
+    void append(PictureOperation operation, char letter, std::size_t length, TextOutput& out);
 
 private:
+    static constexpr std::size_t firstSize = 64;
+
     const char* pictureOf(char letter, std::size_t length);
+    bool write(PictureOperation operation, const char* picture, TextOutput& out);
     int write(PictureOperation operation, const char* picture, char* buffer,
               int size) const noexcept;
     bool grow(int needed);
-    char* buffer() noexcept { return grown_.empty() ? first_ : grown_.data(); }
     int size() const noexcept {
-        return static_cast<int>(grown_.empty() ? sizeof first_ : grown_.size());
+        return static_cast<int>(grown_.empty() ? firstSize : grown_.size());
     }
 
     platform::SYSTEMTIME time_;
-    char first_[64];
     std::vector<char> grown_;
     char shortPicture_[16];
     std::string longPicture_;

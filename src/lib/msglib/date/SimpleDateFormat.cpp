@@ -1,6 +1,7 @@
 #include "msglib/SimpleDateFormat.h"
 
 #include "base/Scanning.h"
+#include "base/TextOutput.h"
 #include "date/CalendarTime.h"
 #include "date/RunRenderer.h"
 
@@ -29,11 +30,11 @@ std::size_t endOfRun(std::string_view pattern, std::size_t pos) noexcept {
 }
 
 // Appends quoted text from behind its opening quote and returns the position from which to go on.
-std::size_t appendQuoted(std::string_view pattern, std::size_t pos, std::string& out) {
+std::size_t appendQuoted(std::string_view pattern, std::size_t pos, TextOutput& out) {
     const std::size_t end = std::min(pattern.find(quote, pos), pattern.size());
-    out += pattern.substr(pos, end - pos);
+    out.append(pattern.substr(pos, end - pos));
     if (holdsAt(pattern, end + 1, quote)) {
-        out.push_back(quote);
+        out.append(quote);
     }
     return end + 1;
 }
@@ -59,11 +60,14 @@ void SimpleDateFormat::applyPattern(const std::string& pattern) {
 }
 
 std::string& SimpleDateFormat::format(const boost::any& value, std::string& out) const {
-    render(pattern_, value, out);
-    return out;
+    return TextOutput::to(out, [&](TextOutput& text) { write(value, text); });
 }
 
-void SimpleDateFormat::render(std::string_view pattern, const boost::any& value, std::string& out) {
+void SimpleDateFormat::write(const boost::any& value, TextOutput& out) const {
+    render(pattern_, value, out);
+}
+
+void SimpleDateFormat::render(std::string_view pattern, const boost::any& value, TextOutput& out) {
     const auto seconds = readSeconds(value);
     const auto time = seconds ? calendarTime(*seconds) : std::nullopt;
     RunRenderer runs(time.value_or(platform::SYSTEMTIME()));
@@ -76,7 +80,7 @@ void SimpleDateFormat::render(std::string_view pattern, const boost::any& value,
         }
         const bool isDate = contains(datePatternChars_, c);
         if (!isDate && !contains(timePatternChars_, c)) {
-            out.push_back(c);
+            out.append(c);
             ++pos;
             continue;
         }

@@ -1,6 +1,7 @@
 #include "message/DirectRenderer.h"
 
 #include "base/Extraction.h"
+#include "base/TextOutput.h"
 #include "message/PatternText.h"
 #include "message/PlaceholderRenderer.h"
 #include "message/PlaceholderStyle.h"
@@ -29,13 +30,13 @@ bool DirectRenderer::render(std::string_view pattern) {
     } catch (const std::runtime_error&) {
     } catch (const std::out_of_range&) {
     }
-    out_.resize(before);
+    out_.cutTo(before);
     return false;
 }
 
 bool DirectRenderer::renderMessage(std::string_view pattern) {
     std::size_t position = 0;
-    const auto append = [this](std::string_view text) { out_ += text; };
+    const auto append = [this](std::string_view text) { out_.append(text); };
     while ((position = scanStatic(pattern, position, append)) < pattern.size()) {
         if (pattern[position] != '{') {
             return false;

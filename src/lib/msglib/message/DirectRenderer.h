@@ -6,20 +6,21 @@
 
 #include <cstddef>
 #include <list>
-#include <string>
 #include <string_view>
 
 namespace zem::msglib {
 
+class TextOutput;
+
 /// Renders a pattern as it is read, without a compiled form. It borrows the arguments and the
-/// string that it appends to.
+/// output that it appends to.
 ///
 /// What is out of the ordinary it leaves to `MessageRenderer`: an index that is more than digits,
 /// deep nesting, and all that fails, since the first failure of a pattern counts only if all of it
 /// compiles.
 class DirectRenderer {
 public:
-    DirectRenderer(const std::list<boost::any>& args, std::string& out) noexcept
+    DirectRenderer(const std::list<boost::any>& args, TextOutput& out) noexcept
         : arguments_(args),
           out_(out) {}
 
@@ -37,7 +38,7 @@ private:
     bool renderChoice(std::string_view style, const boost::any& argument);
 
     ArgumentCursor arguments_;
-    std::string& out_;
+    TextOutput& out_;
     int depth_ = 0; // of the choice that is being rendered
 };
 

@@ -1,6 +1,7 @@
 #include "msglib/MessageFormat.h"
 
 #include "base/Failure.h"
+#include "base/TextOutput.h"
 #include "message/FormatElement.h"
 #include "message/MessageRenderer.h"
 
@@ -19,8 +20,8 @@ MessageFormat& MessageFormat::operator=(const MessageFormat& other) = default;
 MessageFormat::~MessageFormat() = default;
 
 std::string& MessageFormat::format(const std::list<boost::any>& args, std::string& out) const {
-    MessageRenderer(args, locale_, out).render(*this);
-    return out;
+    return TextOutput::to(
+        out, [&](TextOutput& text) { MessageRenderer(args, locale_, text).render(*this); });
 }
 
 std::string& MessageFormat::format(const boost::any& value, std::string& out) const {

@@ -1,5 +1,6 @@
 #include "message/MessageRenderer.h"
 
+#include "base/TextOutput.h"
 #include "message/DirectRenderer.h"
 #include "message/PlaceholderRenderer.h"
 #include "msglib/ChoiceFormat.h"
@@ -19,7 +20,7 @@ bool isChoice(const Format& format) noexcept {
 } // namespace
 
 void MessageRenderer::render(const MessageFormat& message) {
-    out_ += message.prefix_;
+    out_.append(message.prefix_);
     for (const FormatElement& element : message.elements_) {
         rendersDirectly_ = true;
         renderElement(element);
@@ -44,9 +45,9 @@ void MessageRenderer::renderElement(const FormatElement& element) {
         expandChoice(element, argument);
         return;
     } else {
-        format->format(argument, out_);
+        format->write(argument, out_);
     }
-    out_ += element.suffix_;
+    out_.append(element.suffix_);
 }
 
 // The chosen text is a message of its own: its elements come next, and what stands behind the
@@ -56,15 +57,15 @@ void MessageRenderer::expandChoice(const FormatElement& element, const boost::an
     element.format_->format(argument, text);
     rendersDirectly_ = rendersDirectly_ && DirectRenderer(args_, out_).render(text);
     if (rendersDirectly_) {
-        out_ += element.suffix_;
+        out_.append(element.suffix_);
         return;
     }
     MessageFormat nested;
     nested.locale_ = locale_;
     nested.compile(text);
-    out_ += nested.prefix_;
+    out_.append(nested.prefix_);
     if (nested.elements_.empty()) {
-        out_ += element.suffix_;
+        out_.append(element.suffix_);
         return;
     }
     nested.elements_.back().suffix_ += element.suffix_;
@@ -74,8 +75,14 @@ void MessageRenderer::expandChoice(const FormatElement& element, const boost::an
 std::string renderPattern(std::string_view pattern, const std::list<boost::any>& args) {
     constexpr std::size_t usualArgument = 16;
     std::string text;
-    text.reserve(pattern.size() + args.size() * usualArgument);
-    if (!DirectRenderer(args, text).render(pattern)) {
+    const std::size_t usualSize = pattern.size() + args.size() * usualArgument;
+    if (usualSize > TextOutput::largestRoom) {
+        text.reserve(usualSize);
+    }
+    TextOutput output(text);
+    if (DirectRenderer(args, output).render(pattern)) {
+        output.finish();
+    } else {
         MessageFormat(std::string(pattern)).format(args, text);
     }
     return text;

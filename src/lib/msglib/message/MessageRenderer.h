@@ -12,13 +12,15 @@
 
 namespace zem::msglib {
 
+class TextOutput;
+
 class MessageFormat;
 
-/// One rendering of one message. It borrows the arguments, the locale and the string that it
+/// One rendering of one message. It borrows the arguments, the locale and the output that it
 /// appends to.
 class MessageRenderer {
 public:
-    MessageRenderer(const std::list<boost::any>& args, const std::locale& locale, std::string& out)
+    MessageRenderer(const std::list<boost::any>& args, const std::locale& locale, TextOutput& out)
         : args_(args),
           arguments_(args),
           locale_(locale),
@@ -35,7 +37,7 @@ private:
     const std::list<boost::any>& args_;
     ArgumentCursor arguments_;
     const std::locale& locale_;
-    std::string& out_;
+    TextOutput& out_;
 
     // Until a choice turns out to need compiled forms; then those inside it are not tried first,
     // which would read deep nesting many times.

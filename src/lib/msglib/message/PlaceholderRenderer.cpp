@@ -1,15 +1,16 @@
 #include "message/PlaceholderRenderer.h"
 
 #include "base/Argument.h"
+#include "base/TextOutput.h"
 #include "date/LocaleDatePattern.h"
 #include "msglib/SimpleDateFormat.h"
 #include "number/LocaleNumberFormat.h"
 
 namespace zem::msglib {
 
-void PlaceholderRenderer::appendByKind(const boost::any& argument, std::string& out) {
+void PlaceholderRenderer::appendByKind(const boost::any& argument, TextOutput& out) {
     switch (kindOf(argument)) {
-    case ArgumentKind::Text: out += heldValue<std::string>(argument); return;
+    case ArgumentKind::Text: out.append(heldValue<std::string>(argument)); return;
     case ArgumentKind::Float:
     case ArgumentKind::Double:
         LocaleNumberFormat::append(NumberFormat::Number, argument, out);
@@ -21,7 +22,7 @@ void PlaceholderRenderer::appendByKind(const boost::any& argument, std::string& 
 }
 
 void PlaceholderRenderer::appendByStyle(PlaceholderStyle placeholder, std::string_view style,
-                                        const boost::any& argument, std::string& out) {
+                                        const boost::any& argument, TextOutput& out) {
     const auto appendNumber = [&](NumberFormat::FormatType type) {
         LocaleNumberFormat::append(type, argument, out);
     };

@@ -1,7 +1,9 @@
 #include "msglib/DecimalFormat.h"
 
 #include "base/Argument.h"
+#include "base/TextOutput.h"
 #include "number/DigitWriter.h"
+#include "number/NumberArgument.h"
 #include "number/PowersOfTen.h"
 
 #include <algorithm>
@@ -20,14 +22,7 @@ std::size_t countOf(int digits) noexcept {
 } // namespace
 
 std::string& DecimalFormat::format(double value, std::string& out) const {
-    if (std::isnan(value)) {
-        return out += symbols_.naN_;
-    }
-    const bool negative = value < 0.0;
-    appendPrefix(negative, out);
-    appendMagnitude(negative ? -value : value, out);
-    appendSuffix(negative, out);
-    return out;
+    return TextOutput::to(out, [&](TextOutput& text) { write(value, text); });
 }
 
 std::string& DecimalFormat::format(long value, std::string& out) const {
@@ -36,10 +31,27 @@ std::string& DecimalFormat::format(long value, std::string& out) const {
         return format(static_cast<double>(value), out);
     }
     const bool negative = number < 0;
+    const auto magnitude = static_cast<std::uint64_t>(negative ? -number : number);
+    return TextOutput::to(out, [&](TextOutput& text) {
+        appendPrefix(negative, text);
+        appendDigits(magnitude, digitLayout(), text);
+        appendSuffix(negative, text);
+    });
+}
+
+void DecimalFormat::write(const boost::any& value, TextOutput& out) const {
+    write(readNumber(value), out);
+}
+
+void DecimalFormat::write(double value, TextOutput& out) const {
+    if (std::isnan(value)) {
+        out.append(symbols_.naN_);
+        return;
+    }
+    const bool negative = value < 0.0;
     appendPrefix(negative, out);
-    appendDigits(static_cast<std::uint64_t>(negative ? -number : number), digitLayout(), out);
+    appendMagnitude(negative ? -value : value, out);
     appendSuffix(negative, out);
-    return out;
 }
 
 DigitLayout DecimalFormat::digitLayout() const noexcept {
@@ -54,28 +66,28 @@ DigitLayout DecimalFormat::digitLayout() const noexcept {
             symbols_.zeroDigit_};
 }
 
-void DecimalFormat::appendPrefix(bool negative, std::string& out) const {
+void DecimalFormat::appendPrefix(bool negative, TextOutput& out) const {
     if (negative && !negativePrefix_.empty()) {
-        out += negativePrefix_;
+        out.append(negativePrefix_);
         return;
     }
     if (negative && negativeSuffix_.empty()) {
-        out += symbols_.minusSign_;
+        out.append(symbols_.minusSign_);
     }
     if (!positivePrefix_.empty()) {
-        out += positivePrefix_;
+        out.append(positivePrefix_);
     }
 }
 
-void DecimalFormat::appendSuffix(bool negative, std::string& out) const {
+void DecimalFormat::appendSuffix(bool negative, TextOutput& out) const {
     const std::string& suffix =
         negative && !negativeSuffix_.empty() ? negativeSuffix_ : positiveSuffix_;
     if (!suffix.empty()) {
-        out += suffix;
+        out.append(suffix);
     }
 }
 
-void DecimalFormat::appendMagnitude(double magnitude, std::string& out) const {
+void DecimalFormat::appendMagnitude(double magnitude, TextOutput& out) const {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     double x = magnitude * multiplier_;
     const bool scaled = useExponentialNotation_ && x > 0.0 && x < infinity;
@@ -83,7 +95,7 @@ void DecimalFormat::appendMagnitude(double magnitude, std::string& out) const {
     // The only rounding there is. All digits are cut off behind it.
     x += roundingOf(maximumFractionDigits_);
     if (x == infinity) {
-        out += symbols_.infinity_;
+        out.append(symbols_.infinity_);
         return;
     }
     appendDigits(x, digitLayout(), out);
@@ -110,10 +122,10 @@ long long DecimalFormat::scaleToExponent(double& x) const {
     return exponent;
 }
 
-void DecimalFormat::appendExponent(long long exponent, std::string& out) const {
-    out += symbols_.exponential_;
+void DecimalFormat::appendExponent(long long exponent, TextOutput& out) const {
+    out.append(symbols_.exponential_);
     if (exponent < 0) {
-        out += symbols_.minusSign_;
+        out.append(symbols_.minusSign_);
         exponent = -exponent;
     }
     DigitLayout layout{};

@@ -1,8 +1,11 @@
 #include "number/DigitWriter.h"
 
+#include "base/TextOutput.h"
+#include "number/DigitTriples.h"
 #include "number/PowersOfTen.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <iterator>
 #include <memory>
@@ -15,7 +18,7 @@ namespace {
 // integer part, so that integers give the same digits as doubles.
 constexpr double exactIntegers = 0x1p53;
 
-// The most digits of such an integer, of any unsigned 64 bits, and of the largest finite double.
+// The most digits of any unsigned 64 bits, and of the largest finite double.
 constexpr std::size_t mostDigitsOf64Bits = 20;
 constexpr std::size_t mostIntegerDigits = 309;
 
@@ -23,36 +26,143 @@ constexpr std::size_t mostIntegerDigits = 309;
 // two away, so nothing is left behind as many digits.
 constexpr std::size_t mostFractionDigits = 1074;
 
-// Room for the digits of one number: those of the integer grow down from the point, those of the
-// fraction up.
-class DigitRoom {
+[[gnu::noinline]] char* putLong(std::string_view separator, char* at) noexcept {
+    return std::copy(separator.begin(), separator.end(), at);
+}
+
+// Nearly all separators are one byte, and only the others should pay for a call.
+char* put(std::string_view separator, char* at) noexcept {
+    if (separator.size() != 1) {
+        return putLong(separator, at);
+    }
+    *at = separator.front();
+    return at + 1;
+}
+
+// A whole number in the layout that nearly all have: groups of three, or none, and no digits to add
+// or to leave out in front.
+class ThousandsPart {
 public:
-    DigitRoom(std::size_t before, std::size_t behind) {
-        char* begin = local_;
-        if (before + behind > sizeof local_) {
-            large_.reset(new char[before + behind]);
-            begin = large_.get();
+    static bool fits(const DigitLayout& layout) noexcept {
+        return (layout.groupSize == 3 || layout.groupSize == 0) &&
+               layout.minimumIntegerDigits <= 1 &&
+               layout.maximumIntegerDigits >= mostDigitsOf64Bits;
+    }
+
+    ThousandsPart(std::uint64_t whole, const DigitLayout& layout) noexcept
+        : whole_(whole),
+          isEmpty_(whole == 0 && layout.minimumIntegerDigits == 0),
+          triples_(layout.zeroDigit) {
+        if (layout.groupSize != 0) {
+            separator_ = layout.groupingSeparator;
         }
-        first_ = last_ = begin + before;
     }
 
-    char* front() noexcept { return first_; }
-    char* back() noexcept { return last_; }
-    void growTo(char* front, char* back) noexcept {
-        first_ = front;
-        last_ = back;
+    std::size_t size() const noexcept {
+        return mostGroups * (DigitTriples::room + separator_.size());
     }
 
-    void appendTo(std::string& out) const {
-        out.append(first_, static_cast<std::size_t>(last_ - first_));
+    char* writeTo(char* at) const noexcept {
+        if (isEmpty_) {
+            return at;
+        }
+        std::uint16_t groups[mostGroups];
+        std::size_t count = 0;
+        std::uint64_t rest = whole_;
+        for (; rest >= 1000; rest /= 1000) {
+            groups[count++] = static_cast<std::uint16_t>(rest % 1000);
+        }
+        const std::string_view separator = separator_;
+        const DigitTriples triples = triples_;
+        at = triples.writeFirst(static_cast<unsigned int>(rest), at);
+        while (count > 0) {
+            at = triples.write(groups[--count], put(separator, at));
+        }
+        return at;
     }
 
 private:
-    char local_[512];
-    std::unique_ptr<char[]> large_;
-    char* first_;
-    char* last_;
+    static constexpr std::size_t mostGroups = 7;
+
+    std::uint64_t whole_;
+    bool isEmpty_;
+    DigitTriples triples_;
+    std::string_view separator_;
 };
+
+// The digits of a whole number, without a zero in front.
+class WholeDigits {
+public:
+    explicit WholeDigits(std::uint64_t whole) noexcept { begin(whole); }
+
+    // Of a number that may be beyond `exactIntegers`, where each division by ten may round.
+    explicit WholeDigits(double whole) noexcept {
+        char* const end = std::end(digits_);
+        char* first = end;
+        for (; whole >= exactIntegers; whole = std::floor(whole / 10.0)) {
+            const bool fits = whole < 0x1p63;
+            const auto digit = fits ? static_cast<int>(static_cast<std::int64_t>(whole) % 10)
+                                    : static_cast<int>(std::fmod(whole, 10.0));
+            *--first = static_cast<char>('0' + digit);
+        }
+        begin(static_cast<std::uint64_t>(whole));
+        end_ = std::copy(first, end, end_);
+    }
+
+    std::string_view text() const noexcept {
+        return {digits_, static_cast<std::size_t>(end_ - digits_)};
+    }
+
+private:
+    void begin(std::uint64_t whole) noexcept {
+        end_ = whole == 0 ? digits_ : std::to_chars(digits_, std::end(digits_), whole).ptr;
+    }
+
+    char digits_[mostIntegerDigits];
+    char* end_;
+};
+
+// A whole number in any layout.
+class IntegerPart {
+public:
+    IntegerPart(std::string_view digits, const DigitLayout& layout) noexcept
+        : digits_(digits),
+          layout_(layout) {
+        const std::size_t most = layout.maximumIntegerDigits;
+        if (digits_.size() > most) {
+            digits_.remove_prefix(digits_.size() - most);
+        }
+        count_ = std::max(digits_.size(), std::min(layout.minimumIntegerDigits, most));
+        separators_ = layout.groupSize > 0 && count_ > 0 ? (count_ - 1) / layout.groupSize : 0;
+    }
+
+    std::size_t size() const noexcept {
+        return count_ + separators_ * layout_.groupingSeparator.size();
+    }
+
+    char* writeTo(char* at) const noexcept {
+        const std::string_view separator = layout_.groupingSeparator;
+        std::size_t leftInGroup = count_ - separators_ * layout_.groupSize;
+        for (std::size_t left = count_; left > 0; --left) {
+            if (leftInGroup == 0) {
+                at = put(separator, at);
+                leftInGroup = layout_.groupSize;
+            }
+            const int digit = left > digits_.size() ? 0 : digits_[digits_.size() - left] - '0';
+            *at++ = static_cast<char>(layout_.zeroDigit + digit);
+            --leftInGroup;
+        }
+        return at;
+    }
+
+private:
+    std::string_view digits_;
+    const DigitLayout& layout_;
+    std::size_t count_;
+    std::size_t separators_;
+};
+
+constexpr unsigned int tens[] = {1, 10, 100, 1000};
 
 // The digits of a fraction whose multiples by ten are exact: a multiple of 2 to the power -50.
 class ExactFraction {
@@ -61,97 +171,50 @@ public:
         : rest_(static_cast<std::uint64_t>(static_cast<std::int64_t>(fraction * 0x1p50))) {}
 
     bool isZero() const noexcept { return rest_ == 0; }
-    char nextDigit() noexcept {
-        rest_ *= 10;
-        const auto digit = static_cast<char>(rest_ >> 50);
+
+    // The next digits, at most three, as a number.
+    unsigned int next(std::size_t digits) noexcept {
+        rest_ *= tens[digits];
+        const auto number = static_cast<unsigned int>(rest_ >> 50);
         rest_ &= (std::uint64_t{1} << 50) - 1;
-        return digit;
+        return number;
     }
 
 private:
     std::uint64_t rest_;
 };
 
-// The digits of any fraction, where each step may round.
+// The same for any fraction, where each step may round.
 class AnyFraction {
 public:
     explicit AnyFraction(double fraction) noexcept : rest_(fraction) {}
 
     bool isZero() const noexcept { return rest_ == 0.0; }
-    char nextDigit() noexcept {
-        rest_ *= 10.0;
-        const int digit = static_cast<int>(rest_);
-        rest_ -= digit;
-        return static_cast<char>(digit);
+    unsigned int next(std::size_t digits) noexcept {
+        unsigned int number = 0;
+        for (; digits > 0; --digits) {
+            rest_ *= 10.0;
+            const int digit = static_cast<int>(rest_);
+            rest_ -= digit;
+            number = number * 10 + static_cast<unsigned int>(digit);
+        }
+        return number;
     }
 
 private:
     double rest_;
 };
 
-// The digits of a whole number from the units upward.
-class ExactWhole {
+class NoFraction {
 public:
-    explicit ExactWhole(std::uint64_t whole) noexcept : rest_(whole) {}
-
-    bool isZero() const noexcept { return rest_ == 0; }
-    char nextDigit() noexcept {
-        const auto digit = static_cast<char>(rest_ % 10);
-        rest_ /= 10;
-        return digit;
-    }
-
-private:
-    std::uint64_t rest_;
+    bool isZero() const noexcept { return true; }
+    unsigned int next(std::size_t) const noexcept { return 0; }
 };
 
-// The same for a number that may be beyond `exactIntegers`, where each step may round.
-class AnyWhole {
-public:
-    explicit AnyWhole(double whole) noexcept : rest_(whole), exactRest_(0) {}
-
-    bool isZero() const noexcept { return rest_ == 0.0 && exactRest_.isZero(); }
-    char nextDigit() noexcept {
-        if (rest_ == 0.0) {
-            return exactRest_.nextDigit();
-        }
-        const bool fits = rest_ < 0x1p63;
-        const auto digit = fits ? static_cast<char>(static_cast<std::int64_t>(rest_) % 10)
-                                : static_cast<char>(std::fmod(rest_, 10.0));
-        rest_ = std::floor(rest_ / 10.0);
-        if (rest_ < exactIntegers) {
-            exactRest_ = ExactWhole(static_cast<std::uint64_t>(rest_));
-            rest_ = 0.0;
-        }
-        return digit;
-    }
-
-private:
-    double rest_; // 0 from where the other is used
-    ExactWhole exactRest_;
-};
-
-// Writes digits from the units upward, with group separators between them, and on to the minimum.
-// What is read in each step is in locals, since the bytes written might be anything's.
-template <class Whole>
-char* writeInteger(Whole whole, const DigitLayout& layout, char* front) noexcept {
-    const std::size_t most = layout.maximumIntegerDigits;
-    const std::size_t least = std::min(layout.minimumIntegerDigits, most);
-    const std::string_view separator = layout.groupingSeparator;
-    const std::size_t group = layout.groupSize > 0 ? layout.groupSize : most;
-    const char zero = layout.zeroDigit;
-    std::size_t leftInGroup = group;
-    for (std::size_t count = 0; count < least || (count < most && !whole.isZero()); ++count) {
-        if (leftInGroup == 0) {
-            for (std::size_t i = separator.size(); i > 0; --i) {
-                *--front = separator[i - 1];
-            }
-            leftInGroup = group;
-        }
-        *--front = static_cast<char>(zero + whole.nextDigit());
-        --leftInGroup;
-    }
-    return front;
+// The most bytes that `writeFraction` may touch, where a fraction has at most `digits` digits.
+std::size_t roomFor(std::size_t digits, const DigitLayout& layout) noexcept {
+    return layout.decimalSeparator.size() + DigitTriples::room +
+           std::max(std::min(digits, layout.maximumFractionDigits), layout.minimumFractionDigits);
 }
 
 // Digits up to the last one that isn't zero, and on to the minimum. Without any there is no
@@ -160,32 +223,49 @@ template <class Fraction>
 char* writeFraction(Fraction fraction, const DigitLayout& layout, char* const point) noexcept {
     const std::size_t most = layout.maximumFractionDigits;
     const std::size_t least = std::min(layout.minimumFractionDigits, most);
-    const char zero = layout.zeroDigit;
-    char* back = point;
-    for (const char c : layout.decimalSeparator) {
-        *back++ = c;
+    const DigitTriples triples(layout.zeroDigit);
+    char* const first = put(layout.decimalSeparator, point);
+    char* end = least > 0 ? first + least : point;
+    char* at = first;
+    for (std::size_t left = most; left > 0 && !fraction.isZero();) {
+        const std::size_t digits = std::min<std::size_t>(left, 3);
+        const unsigned int number = fraction.next(digits) * tens[3 - digits];
+        triples.write(number, at);
+        const std::size_t significant = DigitTriples::withoutTrailingZeros(number);
+        end = significant > 0 ? std::max(end, at + significant) : end;
+        at += digits;
+        left -= digits;
     }
-    char* significant = least > 0 ? back : point;
-    std::size_t count = 0;
-    for (; count < most && !fraction.isZero(); ++count) {
-        const char digit = fraction.nextDigit();
-        *back++ = static_cast<char>(zero + digit);
-        if (digit != 0 || count < least) {
-            significant = back;
-        }
+    for (; at < end; ++at) {
+        *at = layout.zeroDigit;
     }
-    return count < least ? std::fill_n(significant, least - count, zero) : significant;
+    return end;
 }
 
-std::size_t roomBefore(std::size_t digits, const DigitLayout& layout) {
-    const std::size_t count =
-        std::min(std::max(digits, layout.minimumIntegerDigits), layout.maximumIntegerDigits);
-    return count * (1 + (layout.groupSize > 0 ? layout.groupingSeparator.size() : 0));
+template <class Integer, class Fraction>
+void append(const Integer& integer, Fraction fraction, std::size_t fractionDigits,
+            const DigitLayout& layout, TextOutput& out) {
+    const std::size_t most = integer.size() + roomFor(fractionDigits, layout);
+    const bool fits = most <= TextOutput::largestRoom;
+    const std::unique_ptr<char[]> large(fits ? nullptr : new char[most]);
+    char* const begin = fits ? out.room(most) : large.get();
+    char* const end = writeFraction(fraction, layout, integer.writeTo(begin));
+    if (fits) {
+        out.advanceTo(end);
+    } else {
+        out.append({begin, static_cast<std::size_t>(end - begin)});
+    }
 }
 
-std::size_t roomBehind(std::size_t digits, const DigitLayout& layout) {
-    return layout.decimalSeparator.size() +
-           std::max(std::min(digits, layout.maximumFractionDigits), layout.minimumFractionDigits);
+template <class Fraction>
+void append(std::uint64_t whole, Fraction fraction, std::size_t fractionDigits,
+            const DigitLayout& layout, TextOutput& out) {
+    if (ThousandsPart::fits(layout)) {
+        append(ThousandsPart(whole, layout), fraction, fractionDigits, layout, out);
+    } else {
+        const WholeDigits digits(whole);
+        append(IntegerPart(digits.text(), layout), fraction, fractionDigits, layout, out);
+    }
 }
 
 } // namespace
@@ -198,31 +278,26 @@ double roundingOf(int maximumFractionDigits) noexcept {
     return powerOfTen(-static_cast<double>(maximumFractionDigits) - 1.0) * 5.0;
 }
 
-void appendDigits(double x, const DigitLayout& layout, std::string& out) {
+void appendDigits(double x, const DigitLayout& layout, TextOutput& out) {
     if (x >= exactIntegers) {
-        DigitRoom room(roomBefore(mostIntegerDigits, layout), roomBehind(0, layout));
-        room.growTo(writeInteger(AnyWhole(x), layout, room.front()),
-                    writeFraction(AnyFraction(0.0), layout, room.back()));
-        room.appendTo(out);
+        const WholeDigits digits(x);
+        append(IntegerPart(digits.text(), layout), NoFraction(), 0, layout, out);
         return;
     }
     const auto whole = static_cast<std::int64_t>(x);
     const double fraction = x - static_cast<double>(whole);
-    DigitRoom room(roomBefore(mostDigitsOf64Bits, layout), roomBehind(mostFractionDigits, layout));
-    char* const front =
-        writeInteger(ExactWhole(static_cast<std::uint64_t>(whole)), layout, room.front());
     // From 4 on the last bit of x is worth 2 to the power -50 or more.
-    char* const back = whole >= 4 ? writeFraction(ExactFraction(fraction), layout, room.back())
-                                  : writeFraction(AnyFraction(fraction), layout, room.back());
-    room.growTo(front, back);
-    room.appendTo(out);
+    if (whole >= 4) {
+        append(static_cast<std::uint64_t>(whole), ExactFraction(fraction), mostFractionDigits,
+               layout, out);
+    } else {
+        append(static_cast<std::uint64_t>(whole), AnyFraction(fraction), mostFractionDigits, layout,
+               out);
+    }
 }
 
-void appendDigits(std::uint64_t whole, const DigitLayout& layout, std::string& out) {
-    DigitRoom room(roomBefore(mostDigitsOf64Bits, layout), roomBehind(0, layout));
-    room.growTo(writeInteger(ExactWhole(whole), layout, room.front()),
-                writeFraction(AnyFraction(0.0), layout, room.back()));
-    room.appendTo(out);
+void appendDigits(std::uint64_t whole, const DigitLayout& layout, TextOutput& out) {
+    append(whole, NoFraction(), 0, layout, out);
 }
 
 } // namespace zem::msglib

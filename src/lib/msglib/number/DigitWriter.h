@@ -2,10 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace zem::msglib {
+
+class TextOutput;
 
 /// How the digits of a number stand, without sign and affixes.
 struct DigitLayout {
@@ -26,9 +27,9 @@ double roundingOf(int maximumFractionDigits) noexcept;
 
 /// Appends the digits of `x`, which is finite and not negative. Nothing is rounded, and trailing
 /// zeros of the fraction beyond the minimum are left out.
-void appendDigits(double x, const DigitLayout& layout, std::string& out);
+void appendDigits(double x, const DigitLayout& layout, TextOutput& out);
 
 /// Appends the digits of a whole number, with no fraction but the zeros of its minimum.
-void appendDigits(std::uint64_t whole, const DigitLayout& layout, std::string& out);
+void appendDigits(std::uint64_t whole, const DigitLayout& layout, TextOutput& out);
 
 } // namespace zem::msglib

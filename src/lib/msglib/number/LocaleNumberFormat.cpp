@@ -1,5 +1,6 @@
 #include "number/LocaleNumberFormat.h"
 
+#include "base/TextOutput.h"
 #include "number/LocaleNumberPattern.h"
 #include "number/NumberArgument.h"
 #include "number/PlainLocaleNumber.h"
@@ -34,26 +35,26 @@ std::shared_ptr<DecimalFormat> LocaleNumberFormat::makeSharedRounded(const std::
 // A formatter that is used once takes the classic locale: none has a part in the text, and this one
 // needs no lock.
 void LocaleNumberFormat::append(NumberFormat::FormatType type, const boost::any& argument,
-                                std::string& out) {
+                                TextOutput& out) {
     const double value = readNumber(argument);
     if (!appendPlainLocaleNumber(value, type, out)) {
-        make(std::locale::classic(), type, fallbackOf(type)).format(value, out);
+        make(std::locale::classic(), type, fallbackOf(type)).write(value, out);
     }
 }
 
-void LocaleNumberFormat::appendRounded(const boost::any& argument, std::string& out) {
+void LocaleNumberFormat::appendRounded(const boost::any& argument, TextOutput& out) {
     const double value = readNumber(argument);
     if (!appendPlainLocaleNumber(value, NumberFormat::Integer, out)) {
-        makeSharedRounded(std::locale::classic())->format(value, out);
+        makeSharedRounded(std::locale::classic())->write(value, out);
     }
 }
 
 void LocaleNumberFormat::append(std::string_view pattern, const boost::any& argument,
-                                std::string& out) {
+                                TextOutput& out) {
     DecimalFormat number =
         make(std::locale::classic(), NumberFormat::Number, fallbackOf(NumberFormat::Number));
     number.applyPattern(std::string(pattern));
-    number.format(readNumber(argument), out);
+    number.write(readNumber(argument), out);
 }
 
 std::string LocaleNumberFormat::patternOf(const std::locale& locale, NumberFormat::FormatType type,

@@ -12,6 +12,8 @@
 
 namespace zem::msglib {
 
+class TextOutput;
+
 /// Number formatters by the platform's locale values, for the factories and for messages.
 class LocaleNumberFormat {
 public:
@@ -33,15 +35,15 @@ public:
     /// only where it has to.
     ///
     /// @throws what `NumberFormat::format` throws for the argument
-    static void append(NumberFormat::FormatType type, const boost::any& argument, std::string& out);
+    static void append(NumberFormat::FormatType type, const boost::any& argument, TextOutput& out);
 
     /// The same as the formatter of `makeSharedRounded`.
-    static void appendRounded(const boost::any& argument, std::string& out);
+    static void appendRounded(const boost::any& argument, TextOutput& out);
 
     /// The same as the formatter for plain numbers with `pattern` applied to it.
     ///
     /// @throws std::runtime_error as `DecimalFormat::applyPattern` does
-    static void append(std::string_view pattern, const boost::any& argument, std::string& out);
+    static void append(std::string_view pattern, const boost::any& argument, TextOutput& out);
 
     /// Returns the pattern of the public factory of `type` for a platform that doesn't know the
     /// locale.

@@ -1,6 +1,7 @@
 #include "number/PlainLocaleNumber.h"
 
 #include "base/LocaleValue.h"
+#include "base/TextOutput.h"
 #include "number/DigitWriter.h"
 #include "number/LocaleNumberPattern.h"
 
@@ -26,7 +27,7 @@ struct Symbols {
 };
 
 void appendDigits(double x, const LocaleNumberPattern& pattern, const Symbols& symbols,
-                  std::string& out) {
+                  TextOutput& out) {
     constexpr std::size_t mostIntegerDigits = 309;
     const DigitLayout layout{mostIntegerDigits,      pattern.leadingZero ? 1U : 0U,
                              pattern.fractionDigits, pattern.fractionDigits,
@@ -36,24 +37,24 @@ void appendDigits(double x, const LocaleNumberPattern& pattern, const Symbols& s
 }
 
 bool appendAmount(double x, const LocaleNumberPattern& pattern, const Symbols& symbols,
-                  std::string& out) {
+                  TextOutput& out) {
     const CurrencyPlace place = localeCurrencyPlace();
     const LocaleNumberValue sign(platform::LOCALE_SCURRENCY);
     if (place == CurrencyPlace::Nowhere || !sign.found()) {
         return false;
     }
     if (place == CurrencyPlace::Front || place == CurrencyPlace::FrontAndBlank) {
-        out += sign.text();
+        out.append(sign.text());
     }
     if (place == CurrencyPlace::FrontAndBlank) {
-        out.push_back(' ');
+        out.append(' ');
     }
     appendDigits(x, pattern, symbols, out);
     if (place == CurrencyPlace::BackAndBlank) {
-        out.push_back(' ');
+        out.append(' ');
     }
     if (place == CurrencyPlace::Back || place == CurrencyPlace::BackAndBlank) {
-        out += sign.text();
+        out.append(sign.text());
     }
     return true;
 }
@@ -72,7 +73,7 @@ std::string_view formOf(bool negative, NumberFormat::FormatType type) noexcept {
 
 } // namespace
 
-bool appendPlainLocaleNumber(double value, NumberFormat::FormatType type, std::string& out) {
+bool appendPlainLocaleNumber(double value, NumberFormat::FormatType type, TextOutput& out) {
     const bool negative = value < 0.0;
     const std::string_view form = formOf(negative, type);
     if (std::isnan(value) || (negative && form.empty()) || !LocaleNumberPattern::isAvailable()) {
@@ -90,9 +91,9 @@ bool appendPlainLocaleNumber(double value, NumberFormat::FormatType type, std::s
         return appendAmount(x, pattern, symbols, out);
     }
     const std::size_t digits = form.find('#');
-    out += form.substr(1, digits - 1);
+    out.append(form.substr(1, digits - 1));
     appendDigits(x, pattern, symbols, out);
-    out += form.substr(digits + 1);
+    out.append(form.substr(digits + 1));
     return true;
 }
 

@@ -80,6 +80,8 @@ public:
     std::string& format(double value, std::string& out) const override;
 
 private:
+    friend class LocaleNumberFormat;
+
     std::size_t parseAffix(const std::string& pattern, std::size_t pos, std::string& affix,
                            bool suffix);
     std::size_t parseStatic(const std::string& pattern, std::size_t pos, std::string& text,
@@ -91,11 +93,13 @@ private:
     void reset();
 
     DigitLayout digitLayout() const noexcept;
-    void appendPrefix(bool negative, std::string& out) const;
-    void appendSuffix(bool negative, std::string& out) const;
-    void appendMagnitude(double magnitude, std::string& out) const;
+    void write(const boost::any& value, TextOutput& out) const override;
+    void write(double value, TextOutput& out) const;
+    void appendPrefix(bool negative, TextOutput& out) const;
+    void appendSuffix(bool negative, TextOutput& out) const;
+    void appendMagnitude(double magnitude, TextOutput& out) const;
     long long scaleToExponent(double& x) const;
-    void appendExponent(long long exponent, std::string& out) const;
+    void appendExponent(long long exponent, TextOutput& out) const;
 
     static const std::string patternChars_;
 

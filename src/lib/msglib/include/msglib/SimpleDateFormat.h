@@ -53,7 +53,8 @@ public:
 private:
     friend class PlaceholderRenderer;
 
-    static void render(std::string_view pattern, const boost::any& value, std::string& out);
+    void write(const boost::any& value, TextOutput& out) const override;
+    static void render(std::string_view pattern, const boost::any& value, TextOutput& out);
 
     static const std::string_view datePatternChars_;
     static const std::string_view timePatternChars_;

@@ -16,7 +16,9 @@ public:
     /// Asks the platform for the value `lctype`.
     explicit LocaleValue(std::uint32_t lctype) noexcept
         : length_(platform::GetLocaleInfoA(platform::localeIdentifier, lctype, buffer_, Size) - 1) {
-        buffer_[found() ? length_ : 0] = '\0';
+        if (!found()) {
+            buffer_[0] = '\0';
+        }
     }
 
     /// Tells whether the platform had the value.

@@ -4,16 +4,32 @@
 #include "platform/LastError.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace zem::msglib {
+
+namespace {
+
+// Returns the end of the text that the platform has written. It is fresh in memory, which block
+// operations would have to wait for.
+char* endOfText(char* text, int written) noexcept {
+    char* const last = text + std::max(written, 0);
+    while (text != last && *text != '\0') {
+        ++text;
+    }
+    return text;
+}
+
+} // namespace
 
 void RunRenderer::append(PictureOperation operation, char letter, std::size_t length,
                          TextOutput& out) {
     const char* picture = pictureOf(letter, length);
-    if (!write(operation, picture, out) &&
-        platform::GetLastError() == platform::ERROR_INSUFFICIENT_BUFFER &&
-        grow(write(operation, picture, nullptr, 0))) {
-        write(operation, picture, out);
+    bool mayGrow = true;
+    while (!write(operation, picture, out) && mayGrow &&
+           platform::GetLastError() == platform::ERROR_INSUFFICIENT_BUFFER &&
+           grow(write(operation, picture, nullptr, 0))) {
+        mayGrow = false;
     }
 }
 
@@ -22,7 +38,7 @@ bool RunRenderer::write(PictureOperation operation, const char* picture, TextOut
     const bool isFirst = grown_.empty();
     char* const buffer = isFirst ? out.room(firstSize) : grown_.data();
     const int written = write(operation, picture, buffer, size());
-    char* const end = std::find(buffer, buffer + std::max(written, 0), '\0');
+    char* const end = endOfText(buffer, written);
     if (isFirst) {
         out.advanceTo(end);
     } else {
@@ -33,11 +49,8 @@ bool RunRenderer::write(PictureOperation operation, const char* picture, TextOut
 
 const char* RunRenderer::pictureOf(char letter, std::size_t length) {
     if (length < sizeof shortPicture_) {
-        char* end = shortPicture_;
-        for (; length > 0; --length) {
-            *end++ = letter;
-        }
-        *end = '\0';
+        std::fill(std::begin(shortPicture_), std::end(shortPicture_), letter);
+        shortPicture_[length] = '\0';
         return shortPicture_;
     }
     return longPicture_.assign(length, letter).c_str();

@@ -6,19 +6,31 @@
 #include "date/RunRenderer.h"
 
 #include <algorithm>
+#include <climits>
+#include <cstdint>
 #include <utility>
 
 namespace zem::msglib {
 
 namespace {
 
-constexpr bool contains(std::string_view letters, char c) noexcept {
-    for (const char letter : letters) {
-        if (letter == c) {
-            return true;
-        }
+// What a byte of a pattern begins.
+enum class Mark : std::uint8_t { Literal, Quote, Date, Time };
+
+struct Marks {
+    Mark of[UCHAR_MAX + 1];
+};
+
+constexpr Marks marksFor(std::string_view dateLetters, std::string_view timeLetters) noexcept {
+    Marks marks{};
+    marks.of[static_cast<unsigned char>(quote)] = Mark::Quote;
+    for (const char letter : dateLetters) {
+        marks.of[static_cast<unsigned char>(letter)] = Mark::Date;
     }
-    return false;
+    for (const char letter : timeLetters) {
+        marks.of[static_cast<unsigned char>(letter)] = Mark::Time;
+    }
+    return marks;
 }
 
 std::size_t endOfRun(std::string_view pattern, std::size_t pos) noexcept {
@@ -42,8 +54,8 @@ std::size_t appendQuoted(std::string_view pattern, std::size_t pos, TextOutput& 
 } // namespace
 
 // Not inline, since a library with inline variables can't be unloaded.
-const std::string_view SimpleDateFormat::datePatternChars_ = "dMyg";
-const std::string_view SimpleDateFormat::timePatternChars_ = "hHmst";
+constexpr std::string_view SimpleDateFormat::datePatternChars_ = "dMyg";
+constexpr std::string_view SimpleDateFormat::timePatternChars_ = "hHmst";
 
 SimpleDateFormat::SimpleDateFormat(const std::string& pattern, const std::locale& locale)
     : pattern_(pattern),
@@ -68,28 +80,26 @@ void SimpleDateFormat::write(const boost::any& value, TextOutput& out) const {
 }
 
 void SimpleDateFormat::render(std::string_view pattern, const boost::any& value, TextOutput& out) {
+    static constexpr Marks marks = marksFor(datePatternChars_, timePatternChars_);
     const auto seconds = readSeconds(value);
     const auto time = seconds ? calendarTime(*seconds) : std::nullopt;
     RunRenderer runs(time.value_or(platform::SYSTEMTIME()));
-    std::size_t pos = 0;
-    while (pos < pattern.size()) {
-        const char c = pattern[pos];
-        if (c == quote) {
-            pos = appendQuoted(pattern, pos + 1, out);
-            continue;
+    for (std::size_t pos = 0; pos < pattern.size();) {
+        const Mark mark = marks.of[static_cast<unsigned char>(pattern[pos])];
+        switch (mark) {
+        case Mark::Literal: out.append(pattern[pos++]); break;
+        case Mark::Quote: pos = appendQuoted(pattern, pos + 1, out); break;
+        case Mark::Date:
+        case Mark::Time: {
+            const std::size_t end = endOfRun(pattern, pos);
+            if (time) {
+                runs.append(mark == Mark::Date ? platform::GetDateFormatA
+                                               : platform::GetTimeFormatA,
+                            pattern[pos], end - pos, out);
+            }
+            pos = end;
         }
-        const bool isDate = contains(datePatternChars_, c);
-        if (!isDate && !contains(timePatternChars_, c)) {
-            out.append(c);
-            ++pos;
-            continue;
         }
-        const std::size_t end = endOfRun(pattern, pos);
-        if (time) {
-            runs.append(isDate ? platform::GetDateFormatA : platform::GetTimeFormatA, c, end - pos,
-                        out);
-        }
-        pos = end;
     }
 }
 

@@ -66,24 +66,43 @@ std::size_t DirectRenderer::renderPlaceholder(std::string_view pattern, std::siz
     return holdsAt(pattern, position, ',') ? renderTyped(pattern, position + 1, argument) : nowhere;
 }
 
-// The same from the type on.
+// The same from the type on. Most types and styles are keywords, and need no scanning for syntax.
 std::size_t DirectRenderer::renderTyped(std::string_view pattern, std::size_t position,
                                         const boost::any& argument) {
+    const std::size_t typeEnd = endOfKeyword(pattern, position);
+    const std::size_t styleEnd =
+        holdsAt(pattern, typeEnd, ',') ? endOfKeyword(pattern, typeEnd + 1) : typeEnd;
+    if (!holdsAt(pattern, styleEnd, '}')) {
+        return renderScanned(pattern, position, argument);
+    }
+    const std::string_view type = pattern.substr(position, typeEnd - position);
+    const std::string_view style =
+        styleEnd > typeEnd ? pattern.substr(typeEnd + 1, styleEnd - typeEnd - 1)
+                           : std::string_view();
+    return renderStyled(type, style, argument) ? styleEnd + 1 : nowhere;
+}
+
+std::size_t DirectRenderer::renderScanned(std::string_view pattern, std::size_t position,
+                                          const boost::any& argument) {
     JoinedPieces type;
     JoinedPieces style;
     position = scanElement(pattern, position, ',', type);
     if (holdsAt(pattern, position, ',')) {
         position = scanElement(pattern, position + 1, '}', style);
     }
-    if (!holdsAt(pattern, position, '}')) {
-        return nowhere;
+    const bool rendered =
+        holdsAt(pattern, position, '}') && renderStyled(type.text(), style.text(), argument);
+    return rendered ? position + 1 : nowhere;
+}
+
+bool DirectRenderer::renderStyled(std::string_view type, std::string_view style,
+                                  const boost::any& argument) {
+    const PlaceholderStyle wanted = placeholderStyle(type, style);
+    if (wanted == PlaceholderStyle::Choice) {
+        return renderChoice(style, argument);
     }
-    const PlaceholderStyle wanted = placeholderStyle(type.text(), style.text());
-    if (wanted != PlaceholderStyle::Choice) {
-        PlaceholderRenderer::appendByStyle(wanted, style.text(), argument, out_);
-        return position + 1;
-    }
-    return renderChoice(style.text(), argument) ? position + 1 : nowhere;
+    PlaceholderRenderer::appendByStyle(wanted, style, argument, out_);
+    return true;
 }
 
 // The text that a choice picks is a message for the same arguments.

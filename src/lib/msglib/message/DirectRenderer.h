@@ -35,6 +35,9 @@ private:
     std::size_t renderPlaceholder(std::string_view pattern, std::size_t position);
     std::size_t renderTyped(std::string_view pattern, std::size_t position,
                             const boost::any& argument);
+    std::size_t renderScanned(std::string_view pattern, std::size_t position,
+                              const boost::any& argument);
+    bool renderStyled(std::string_view type, std::string_view style, const boost::any& argument);
     bool renderChoice(std::string_view style, const boost::any& argument);
 
     ArgumentCursor arguments_;

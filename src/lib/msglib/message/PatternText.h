@@ -7,6 +7,14 @@
 
 namespace zem::msglib {
 
+/// Returns the position of the first byte from `position` on that is no letter of a keyword.
+inline std::size_t endOfKeyword(std::string_view pattern, std::size_t position) noexcept {
+    while (position < pattern.size() && pattern[position] >= 'a' && pattern[position] <= 'z') {
+        ++position;
+    }
+    return position;
+}
+
 /// Reads static text from `position` on, with its quoting resolved, piece by piece into `sink`.
 ///
 /// @return where it stopped: at a brace, or at the size of `pattern`

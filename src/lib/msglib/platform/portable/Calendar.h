@@ -16,7 +16,6 @@ namespace zem::msglib::platform {
 constexpr std::uint32_t firstYear = 1601;
 constexpr std::uint32_t lastYear = 30827;
 
-constexpr std::uint32_t eraYears = 400;
 constexpr std::uint32_t eraDays = 146097;
 constexpr std::uint32_t eraStartYear = 1600;
 constexpr std::uint32_t eraStartToDayZero = 306;
@@ -30,15 +29,17 @@ struct CalendarDate {
     std::uint32_t day;
 };
 
+/// Returns how many days a month has.
+constexpr std::uint32_t daysIn(std::uint32_t month, std::uint32_t year) noexcept {
+    const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+    return month == 2 && leap ? 29 : monthDays[static_cast<std::size_t>(month) - 1];
+}
+
 /// Tells whether the year is in range and the calendar has the day.
 constexpr bool isCalendarDate(const CalendarDate& date) noexcept {
-    if (date.year < firstYear || date.year > lastYear || date.month < 1 || date.month > 12) {
-        return false;
-    }
-    const bool leap = date.year % 4 == 0 && (date.year % 100 != 0 || date.year % 400 == 0);
-    const std::uint32_t days =
-        date.month == 2 && leap ? 29 : monthDays[static_cast<std::size_t>(date.month) - 1];
-    return date.day >= 1 && date.day <= days;
+    constexpr std::uint32_t shortest = 28;
+    return date.year >= firstYear && date.year <= lastYear && date.month >= 1 && date.month <= 12 &&
+           date.day >= 1 && (date.day <= shortest || date.day <= daysIn(date.month, date.year));
 }
 
 /// Returns the days from 1601-01-01 to `date`, which `isCalendarDate` accepts.
@@ -47,9 +48,7 @@ constexpr std::uint32_t daysOfDate(const CalendarDate& date) noexcept {
     const std::uint32_t year = date.year - eraStartYear - (beforeMarch ? 1 : 0);
     const std::uint32_t month = beforeMarch ? date.month + 9 : date.month - 3;
     const std::uint32_t dayOfYear = (153 * month + 2) / 5 + date.day - 1;
-    const std::uint32_t yearOfEra = year % eraYears;
-    const std::uint32_t dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
-    return year / eraYears * eraDays + dayOfEra - eraStartToDayZero;
+    return year * 365 + year / 4 - year / 100 + year / 400 + dayOfYear - eraStartToDayZero;
 }
 
 /// Returns the date that lies `days` days, at most a billion, behind 1601-01-01.

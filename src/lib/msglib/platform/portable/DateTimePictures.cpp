@@ -4,80 +4,111 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace zem::msglib::platform {
 
 namespace {
 
+/// No field is longer, and every write of one may touch as many bytes.
+constexpr int longestField = 12;
+
+/// The name of a day or month, in as many bytes as every name is copied with.
+struct Name {
+    char text[longestField];
+    std::size_t length;
+};
+
 constexpr std::size_t abbreviationLength = 3;
 
-constexpr std::string_view dayNames[] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                         "Thursday", "Friday", "Saturday"};
+constexpr Name dayNames[] = {{"Sunday", 6},    {"Monday", 6},   {"Tuesday", 7}, {"Wednesday", 9},
+                             {"Thursday", 8}, {"Friday", 6}, {"Saturday", 8}};
 
-constexpr std::string_view monthNames[] = {"January",   "February", "March",    "April",
-                                           "May",       "June",     "July",     "August",
-                                           "September", "October",  "November", "December"};
+constexpr Name monthNames[] = {{"January", 7}, {"February", 8},  {"March", 5},   {"April", 5},
+                               {"May", 3},     {"June", 4},      {"July", 4},    {"August", 6},
+                               {"September", 9}, {"October", 7}, {"November", 8}, {"December", 8}};
 
-/// Appends a name or, for a run of three letters, its abbreviation.
-void appendName(std::string_view name, std::size_t runLength, TextBuffer& out) noexcept {
-    out.append(runLength == 3 ? name.substr(0, abbreviationLength) : name);
+/// Writes a name or, for a run of three letters, its abbreviation. This and all below return where
+/// the field ends.
+char* writeName(const Name& name, std::size_t runLength, char* at) noexcept {
+    std::memcpy(at, name.text, sizeof name.text);
+    return at + (runLength == 3 ? abbreviationLength : name.length);
 }
 
-void appendDay(const CalendarDate& date, std::size_t runLength, TextBuffer& out) noexcept {
+/// Writes a number below 100, with a leading zero if `width` is 2.
+char* writeNumber(unsigned int number, std::size_t width, char* at) noexcept {
+    if (number >= 10 || width == 2) {
+        *at++ = static_cast<char>('0' + number / 10);
+    }
+    *at++ = static_cast<char>('0' + number % 10);
+    return at;
+}
+
+char* writeDay(const CalendarDate& date, std::size_t runLength, char* at) noexcept {
+    return runLength <= 2 ? writeNumber(date.day, runLength, at)
+                          : writeName(dayNames[weekDayOfDays(daysOfDate(date))], runLength, at);
+}
+
+char* writeMonth(const CalendarDate& date, std::size_t runLength, char* at) noexcept {
+    return runLength <= 2
+               ? writeNumber(date.month, runLength, at)
+               : writeName(monthNames[static_cast<std::size_t>(date.month) - 1], runLength, at);
+}
+
+char* writeYear(const CalendarDate& date, std::size_t runLength, char* at) noexcept {
     if (runLength <= 2) {
-        out.append(date.day, runLength);
-    } else {
-        appendName(dayNames[weekDayOfDays(daysOfDate(date))], runLength, out);
+        return writeNumber(date.year % (runLength == 1 ? 10 : 100), runLength, at);
     }
+    if (date.year >= 10'000) {
+        *at++ = static_cast<char>('0' + date.year / 10'000);
+    }
+    return writeNumber(date.year % 100, 2, writeNumber(date.year / 100 % 100, 2, at));
 }
 
-void appendMonth(const CalendarDate& date, std::size_t runLength, TextBuffer& out) noexcept {
-    if (runLength <= 2) {
-        out.append(date.month, runLength);
-    } else {
-        appendName(monthNames[static_cast<std::size_t>(date.month) - 1], runLength, out);
+char* writeText(std::string_view text, char* at) noexcept {
+    for (const char c : text) {
+        *at++ = c;
     }
+    return at;
 }
 
-void appendYear(const CalendarDate& date, std::size_t runLength, TextBuffer& out) noexcept {
-    switch (runLength) {
-    case 1: out.append(date.year % 10, 1); break;
-    case 2: out.append(date.year % 100, 2); break;
-    default: out.append(date.year, 4);
-    }
-}
-
-/// Appends the field that a run asks for; false if the letter names none.
-bool appendDateField(const SYSTEMTIME& time, char letter, std::size_t runLength,
-                     TextBuffer& out) noexcept {
+/// Writes the field that a run asks for; null if the letter names none.
+char* writeDateField(const SYSTEMTIME& time, char letter, std::size_t runLength,
+                     char* at) noexcept {
     const CalendarDate date = dateOf(time);
     switch (letter) {
-    case 'd': appendDay(date, runLength, out); return true;
-    case 'M': appendMonth(date, runLength, out); return true;
-    case 'y': appendYear(date, runLength, out); return true;
-    case 'g': out.append("A.D."); return true;
-    default: return false;
+    case 'd': return writeDay(date, runLength, at);
+    case 'M': return writeMonth(date, runLength, at);
+    case 'y': return writeYear(date, runLength, at);
+    case 'g': return writeText("A.D.", at);
+    default: return nullptr;
     }
 }
 
-/// Appends the field that a run asks for; false if the letter names none.
-bool appendTimeField(const SYSTEMTIME& time, char letter, std::size_t runLength,
-                     TextBuffer& out) noexcept {
+/// Writes the field that a run asks for; null if the letter names none.
+char* writeTimeField(const SYSTEMTIME& time, char letter, std::size_t runLength,
+                     char* at) noexcept {
     constexpr unsigned int noon = 12;
     const std::size_t width = std::min<std::size_t>(runLength, 2);
     const unsigned int hour = time.wHour;
     switch (letter) {
-    case 'h': out.append(hour % noon == 0 ? noon : hour % noon, width); return true;
-    case 'H': out.append(hour, width); return true;
-    case 'm': out.append(time.wMinute, width); return true;
-    case 's': out.append(time.wSecond, width); return true;
-    case 't': out.append(std::string_view(hour < noon ? "AM" : "PM", width)); return true;
-    default: return false;
+    case 'h': return writeNumber(hour % noon == 0 ? noon : hour % noon, width, at);
+    case 'H': return writeNumber(hour, width, at);
+    case 'm': return writeNumber(time.wMinute, width, at);
+    case 's': return writeNumber(time.wSecond, width, at);
+    case 't': return writeText(std::string_view(hour < noon ? "AM" : "PM", width), at);
+    default: return nullptr;
     }
 }
 
-using AppendField = bool (*)(const SYSTEMTIME&, char, std::size_t, TextBuffer&) noexcept;
+const char* endOfRun(const char* run) noexcept {
+    const char* end = run + 1;
+    while (*end == *run) {
+        ++end;
+    }
+    return end;
+}
 
 /// Appends the quoted text from `at` on and returns what follows it. A doubled quote is a quote,
 /// and without a closing one the text goes to the end.
@@ -91,27 +122,39 @@ const char* appendQuoted(const char* at, TextBuffer& out) noexcept {
     return at;
 }
 
-// Pictures are short and fresh in memory, so no library function looks for their end.
-int writePicture(const SYSTEMTIME& time, const char* picture, AppendField appendField, char* buffer,
-                 int size) noexcept {
+template <class WriteField>
+[[gnu::noinline]] int writeRuns(const SYSTEMTIME& time, const char* picture, WriteField writeField, char* buffer,
+              int size) noexcept {
     TextBuffer out(buffer, size);
     while (*picture != '\0') {
-        const char letter = *picture;
-        if (letter == '\'') {
+        if (*picture == '\'') {
             picture = appendQuoted(picture + 1, out);
             continue;
         }
-        const char* end = picture + 1;
-        while (*end == letter) {
-            ++end;
-        }
-        const auto length = static_cast<std::size_t>(end - picture);
-        if (!appendField(time, letter, length, out)) {
-            out.append(std::string_view(picture, length));
-        }
-        picture = end;
+        char field[longestField];
+        const auto length = static_cast<std::size_t>(endOfRun(picture) - picture);
+        const char* const end = writeField(time, *picture, length, field);
+        out.append(end != nullptr
+                       ? std::string_view(field, static_cast<std::size_t>(end - field))
+                       : std::string_view(picture, length));
+        picture += length;
     }
     return out.finish();
+}
+
+/// Writes a whole picture. One field that surely fits is written to where it belongs.
+template <class WriteField>
+int writePicture(const SYSTEMTIME& time, const char* picture, WriteField writeField, char* buffer,
+                 int size) noexcept {
+    const char* const end = *picture != '\0' ? endOfRun(picture) : picture;
+    if (*end == '\0' && size > longestField) {
+        const auto length = static_cast<std::size_t>(end - picture);
+        if (char* const fieldEnd = writeField(time, *picture, length, buffer)) {
+            *fieldEnd = '\0';
+            return static_cast<int>(fieldEnd - buffer) + 1;
+        }
+    }
+    return writeRuns(time, picture, writeField, buffer, size);
 }
 
 /// Tests what both operations demand of their arguments alike, and leaves the reason of a refusal.
@@ -138,7 +181,7 @@ int GetDateFormatA(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* 
         setLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    return writePicture(*date, picture, appendDateField, buffer, size);
+    return writePicture(*date, picture, writeDateField, buffer, size);
 }
 
 int GetTimeFormatA(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* time,
@@ -150,7 +193,7 @@ int GetTimeFormatA(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* 
         setLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    return writePicture(*time, picture, appendTimeField, buffer, size);
+    return writePicture(*time, picture, writeTimeField, buffer, size);
 }
 
 } // namespace zem::msglib::platform

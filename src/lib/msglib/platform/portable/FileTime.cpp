@@ -7,6 +7,7 @@ namespace {
 
 constexpr std::uint64_t unitsPerMillisecond = 10'000;
 constexpr std::uint64_t millisecondsPerDay = 86'400'000;
+constexpr std::uint64_t unitsPerDay = millisecondsPerDay * unitsPerMillisecond;
 constexpr std::uint64_t countLimit = std::uint64_t{1} << 63;
 
 std::uint64_t millisecondOfDay(const SYSTEMTIME& time) noexcept {
@@ -54,9 +55,8 @@ bool FileTimeToSystemTime(const FILETIME* count, SYSTEMTIME* time) noexcept {
     if (units >= countLimit) {
         return invalidParameter();
     }
-    const std::uint64_t milliseconds = units / unitsPerMillisecond;
-    *time = fieldsOf(static_cast<std::uint32_t>(milliseconds / millisecondsPerDay),
-                     static_cast<std::uint32_t>(milliseconds % millisecondsPerDay));
+    *time = fieldsOf(static_cast<std::uint32_t>(units / unitsPerDay),
+                     static_cast<std::uint32_t>(units % unitsPerDay / unitsPerMillisecond));
     return true;
 }
 

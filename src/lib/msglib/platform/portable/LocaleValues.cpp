@@ -1,53 +1,87 @@
 #include "platform/portable/Locales.h"
 #include "platform/portable/TextBuffer.h"
 
-#include <string_view>
+#include <cstddef>
+#include <cstring>
 
 namespace zem::msglib::platform {
 
 namespace {
 
-/// Returns the value, or a view without data for a number that names none.
-std::string_view localeValue(std::uint32_t lctype) noexcept {
-    switch (lctype) {
-    case LOCALE_SDECIMAL: return ".";
-    case LOCALE_STHOUSAND: return ",";
-    case LOCALE_SGROUPING: return "3;0";
-    case LOCALE_IDIGITS: return "2";
-    case LOCALE_ILZERO: return "1";
-    case LOCALE_SNATIVEDIGITS: return "0123456789";
-    case LOCALE_SCURRENCY: return "$";
-    case LOCALE_SINTLSYMBOL: return "USD";
-    case LOCALE_SMONDECIMALSEP: return ".";
-    case LOCALE_SMONTHOUSANDSEP: return ",";
-    case LOCALE_SMONGROUPING: return "3;0";
-    case LOCALE_ICURRDIGITS: return "2";
-    case LOCALE_ICURRENCY:
-    case LOCALE_INEGCURR: return "0";
-    case LOCALE_SSHORTDATE: return "M/d/yyyy";
-    case LOCALE_SLONGDATE: return "dddd, MMMM d, yyyy";
-    case LOCALE_ILDATE: return "0";
-    case LOCALE_SNEGATIVESIGN: return "-";
-    case LOCALE_STIMEFORMAT: return "h:mm:ss tt";
-    case LOCALE_INEGNUMBER: return "1";
-    default: return {};
+/// A value with its terminator, in as many bytes as every value is copied with.
+struct Value {
+    char text[24];
+    int size; ///< with the terminator; 0 for a number that names no value
+};
+
+constexpr std::size_t slots = LOCALE_SNEGATIVESIGN + 3;
+
+/// Returns where the table has the value of a number; a slot without one for all that name none.
+constexpr std::size_t slotOf(std::uint32_t lctype) noexcept {
+    if (lctype <= LOCALE_SNEGATIVESIGN) {
+        return lctype;
     }
+    return lctype == LOCALE_STIMEFORMAT ? slots - 2 : lctype == LOCALE_INEGNUMBER ? slots - 1 : 0;
 }
+
+struct Values {
+    Value in[slots];
+
+    template <std::size_t Size>
+    constexpr void set(std::uint32_t lctype, const char (&text)[Size]) noexcept {
+        Value& value = in[slotOf(lctype)];
+        for (std::size_t i = 0; i < Size; ++i) {
+            value.text[i] = text[i];
+        }
+        value.size = static_cast<int>(Size);
+    }
+};
+
+constexpr Values makeValues() noexcept {
+    Values values{};
+    values.set(LOCALE_SDECIMAL, ".");
+    values.set(LOCALE_STHOUSAND, ",");
+    values.set(LOCALE_SGROUPING, "3;0");
+    values.set(LOCALE_IDIGITS, "2");
+    values.set(LOCALE_ILZERO, "1");
+    values.set(LOCALE_SNATIVEDIGITS, "0123456789");
+    values.set(LOCALE_SCURRENCY, "$");
+    values.set(LOCALE_SINTLSYMBOL, "USD");
+    values.set(LOCALE_SMONDECIMALSEP, ".");
+    values.set(LOCALE_SMONTHOUSANDSEP, ",");
+    values.set(LOCALE_SMONGROUPING, "3;0");
+    values.set(LOCALE_ICURRDIGITS, "2");
+    values.set(LOCALE_ICURRENCY, "0");
+    values.set(LOCALE_INEGCURR, "0");
+    values.set(LOCALE_SSHORTDATE, "M/d/yyyy");
+    values.set(LOCALE_SLONGDATE, "dddd, MMMM d, yyyy");
+    values.set(LOCALE_ILDATE, "0");
+    values.set(LOCALE_SNEGATIVESIGN, "-");
+    values.set(LOCALE_STIMEFORMAT, "h:mm:ss tt");
+    values.set(LOCALE_INEGNUMBER, "1");
+    return values;
+}
+
+constexpr Values values = makeValues();
 
 } // namespace
 
 int GetLocaleInfoA(std::uint32_t locale, std::uint32_t lctype, char* buffer, int size) noexcept {
-    const std::string_view value = localeValue(lctype);
     if (!isKnownLocale(locale) || !TextBuffer::accepts(buffer, size)) {
         setLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    if (value.data() == nullptr) {
+    const Value& value = values.in[slotOf(lctype)];
+    if (value.size == 0) {
         setLastError(ERROR_INVALID_FLAGS);
         return 0;
     }
+    if (size >= static_cast<int>(sizeof value.text)) {
+        std::memcpy(buffer, value.text, sizeof value.text);
+        return value.size;
+    }
     TextBuffer text(buffer, size);
-    text.append(value);
+    text.append(value.text);
     return text.finish();
 }
 

@@ -3,7 +3,6 @@
 #include "platform/portable/LastError.h"
 
 #include <cstddef>
-#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -40,21 +39,6 @@ public:
             buffer_[at++] = byte;
         }
         length_ += text.size();
-    }
-
-    /// Appends `number` in decimal, with leading zeros up to `width` digits.
-    void append(unsigned int number, std::size_t width) noexcept {
-        char digits[std::numeric_limits<unsigned int>::digits10 + 1];
-        char* const end = std::end(digits);
-        char* first = end;
-        do {
-            *--first = static_cast<char>('0' + number % 10);
-            number /= 10;
-        } while (number != 0);
-        for (auto count = static_cast<std::size_t>(end - first); count < width; ++count) {
-            append('0');
-        }
-        append(std::string_view(first, static_cast<std::size_t>(end - first)));
     }
 
     /// Appends the terminator and returns the length with it; 0 for a buffer that was too short

@@ -5,7 +5,6 @@
 #include "platform/portable/TableReader.h"
 
 #include <cstring>
-#include <optional>
 #include <set>
 
 namespace zem::msglib::fuzzing {
@@ -18,12 +17,9 @@ using platform::TableReader;
 
 constexpr std::uint32_t language = 0x409;
 
-std::u16string unitsOf(const std::optional<MessageText>& text) {
-    std::u16string units(text ? text->length() : 0, u'\0');
-    if (text) {
-        text->copyTo(units.data());
-    }
-    require(!text || !units.empty(), "a text is not empty");
+std::u16string unitsOf(const MessageText& text) {
+    std::u16string units(text.length(), u'\0');
+    text.copyTo(units.data());
     require(units.find(u'\0') == std::u16string::npos, "a text ends before its first NUL");
     return units;
 }
@@ -74,7 +70,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const std::size_t alignment : {4U, 8U}) {
             require(unitsOf(findInNotes(notes, alignment, language, id)) == text,
                     "a note gives the texts of its table");
-            require(!findInNotes(notes, alignment, language + 1, id), "and in its language only");
+            require(findInNotes(notes, alignment, language + 1, id).isEmpty(),
+                    "and in its language only");
             unitsOf(findInNotes(table, alignment, language, id));
         }
     }

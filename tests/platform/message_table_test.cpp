@@ -50,12 +50,10 @@ const Data sampleTable = bytesOf({
     8,  1,      u'x', 0,                                             //
 });
 
-std::u16string textOf(const std::optional<MessageText>& text) {
-    EXPECT_TRUE(!text || text->length() > 0);
-    std::u16string units(text ? text->length() : 0, u'\0');
-    if (text) {
-        text->copyTo(units.data());
-    }
+std::u16string textOf(const MessageText& text) {
+    EXPECT_EQ(text.isEmpty(), text.length() == 0);
+    std::u16string units(text.length(), u'\0');
+    text.copyTo(units.data());
     return units;
 }
 

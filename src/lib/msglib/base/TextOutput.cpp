@@ -10,11 +10,12 @@ void TextOutput::cutTo(std::size_t size) {
 }
 
 void TextOutput::finish() {
-    out_.append(gathered_, static_cast<std::size_t>(end_ - gathered_));
+    out_ += gathered();
     end_ = gathered_;
 }
 
-void TextOutput::appendBeyond(std::string_view text) {
+// Not inline, since every call of `append` would have to make room for it.
+[[gnu::noinline]] void TextOutput::appendBeyond(std::string_view text) {
     finish();
     out_ += text;
 }

@@ -49,7 +49,12 @@ public:
 
     /// Returns the length of the string with what has gathered.
     std::size_t size() const noexcept {
-        return out_.size() + static_cast<std::size_t>(end_ - gathered_);
+        return out_.size() + gathered().size();
+    }
+
+    /// Returns what has gathered, until the next change.
+    std::string_view gathered() const noexcept {
+        return {gathered_, static_cast<std::size_t>(end_ - gathered_)};
     }
 
     /// Takes the end away, down to an earlier `size`.

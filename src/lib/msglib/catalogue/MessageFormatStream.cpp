@@ -51,7 +51,10 @@ unsigned int MessageFormatStream::messageId() const {
 }
 
 std::string MessageFormatStream::toString() const {
-    std::string text = impl_->text_ + impl_->rendered();
+    std::string text = impl_->rendered();
+    if (!impl_->text_.empty()) {
+        text.insert(0, impl_->text_);
+    }
     impl_->text_ = text;
     return text;
 }

@@ -7,6 +7,7 @@
 #include <boost/container/small_vector.hpp>
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <stdexcept>
 
@@ -64,13 +65,17 @@ Utf8Text toUtf8(const TableText& text) {
 
 // Makes one byte of each line end of two.
 void shortenLineEnds(Utf8Text& text) {
-    auto kept = std::find(text.begin(), text.end(), '\r');
-    for (auto at = kept; at != text.end(); ++at) {
-        if (*at != '\r' || at + 1 == text.end() || at[1] != '\n') {
+    char* const end = text.data() + text.size();
+    auto* kept = static_cast<char*>(std::memchr(text.data(), '\r', text.size()));
+    if (kept == nullptr) {
+        return;
+    }
+    for (const char* at = kept; at != end; ++at) {
+        if (*at != '\r' || at + 1 == end || at[1] != '\n') {
             *kept++ = *at;
         }
     }
-    text.erase(kept, text.end());
+    text.resize(static_cast<std::size_t>(kept - text.data()));
 }
 
 } // namespace

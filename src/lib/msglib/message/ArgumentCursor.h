@@ -5,7 +5,6 @@
 #include <boost/any.hpp>
 
 #include <cstddef>
-#include <iterator>
 #include <list>
 
 namespace zem::msglib {
@@ -18,26 +17,33 @@ public:
         : args_(args),
           argument_(args.begin()) {}
 
+    const std::list<boost::any>& list() const noexcept { return args_; }
+
     /// Returns the argument with `index`, counted from 0.
     ///
     /// @throws std::runtime_error "Argument index in format exceeds number of specified arguments"
     const boost::any& at(int index) {
-        if (index < 0 || static_cast<std::size_t>(index) >= args_.size()) {
+        const auto wanted = static_cast<std::size_t>(index);
+        if (index < 0 || wanted >= args_.size()) {
             raise(Failure::ArgumentIndexTooHigh);
         }
-        if (index < position_ / 2) {
+        if (wanted < position_ / 2) {
             argument_ = args_.begin();
             position_ = 0;
         }
-        std::advance(argument_, index - position_);
-        position_ = index;
+        for (; position_ < wanted; ++position_) {
+            ++argument_;
+        }
+        for (; position_ > wanted; --position_) {
+            --argument_;
+        }
         return *argument_;
     }
 
 private:
     const std::list<boost::any>& args_;
     std::list<boost::any>::const_iterator argument_;
-    int position_ = 0; // of argument_ in args_
+    std::size_t position_ = 0; // of argument_ in args_
 };
 
 } // namespace zem::msglib

@@ -51,11 +51,11 @@ void MessageRenderer::renderElement(const FormatElement& element) {
 }
 
 // The chosen text is a message of its own: its elements come next, and what stands behind the
-// choice follows the last one.
-void MessageRenderer::expandChoice(const FormatElement& element, const boost::any& argument) {
+// choice follows the last one. Not inline, so that other elements need not make room for it.
+[[gnu::noinline]] void MessageRenderer::expandChoice(const FormatElement& element, const boost::any& argument) {
     std::string text;
     element.format_->format(argument, text);
-    rendersDirectly_ = rendersDirectly_ && DirectRenderer(args_, out_).render(text);
+    rendersDirectly_ = rendersDirectly_ && DirectRenderer(arguments_.list(), out_).render(text);
     if (rendersDirectly_) {
         out_.append(element.suffix_);
         return;
@@ -80,10 +80,12 @@ std::string renderPattern(std::string_view pattern, const std::list<boost::any>&
         text.reserve(usualSize);
     }
     TextOutput output(text);
-    if (DirectRenderer(args, output).render(pattern)) {
-        output.finish();
-    } else {
+    if (!DirectRenderer(args, output).render(pattern)) {
         MessageFormat(std::string(pattern)).format(args, text);
+    } else if (text.capacity() < output.size() && text.empty()) {
+        return std::string(output.gathered());
+    } else {
+        output.finish();
     }
     return text;
 }

@@ -21,8 +21,7 @@ class MessageFormat;
 class MessageRenderer {
 public:
     MessageRenderer(const std::list<boost::any>& args, const std::locale& locale, TextOutput& out)
-        : args_(args),
-          arguments_(args),
+        : arguments_(args),
           locale_(locale),
           out_(out) {}
 
@@ -34,7 +33,6 @@ private:
     void renderElement(const FormatElement& element);
     void expandChoice(const FormatElement& element, const boost::any& argument);
 
-    const std::list<boost::any>& args_;
     ArgumentCursor arguments_;
     const std::locale& locale_;
     TextOutput& out_;

@@ -26,69 +26,42 @@ constexpr std::size_t mostIntegerDigits = 309;
 // two away, so nothing is left behind as many digits.
 constexpr std::size_t mostFractionDigits = 1074;
 
-[[gnu::noinline]] char* putLong(std::string_view separator, char* at) noexcept {
-    return std::copy(separator.begin(), separator.end(), at);
+// Nearly all numbers stand in groups of three or in none, have no digits to add or to leave out in
+// front and few behind the point, and separators of one byte. What is written of such a number
+// takes at most this room.
+constexpr std::size_t usualRoom = 128;
+
+bool isUsual(const DigitLayout& layout) noexcept {
+    constexpr std::size_t fewDigits = 64;
+    const bool isGroupedByThree =
+        layout.groupSize == 3 && layout.groupingSeparator.size() == 1;
+    return (isGroupedByThree || layout.groupSize == 0) && layout.minimumIntegerDigits <= 1 &&
+           layout.maximumIntegerDigits >= mostDigitsOf64Bits &&
+           layout.maximumFractionDigits <= fewDigits && layout.decimalSeparator.size() == 1;
 }
 
-// Nearly all separators are one byte, and only the others should pay for a call.
-char* put(std::string_view separator, char* at) noexcept {
-    if (separator.size() != 1) {
-        return putLong(separator, at);
-    }
-    *at = separator.front();
-    return at + 1;
-}
-
-// A whole number in the layout that nearly all have: groups of three, or none, and no digits to add
-// or to leave out in front.
-class ThousandsPart {
-public:
-    static bool fits(const DigitLayout& layout) noexcept {
-        return (layout.groupSize == 3 || layout.groupSize == 0) &&
-               layout.minimumIntegerDigits <= 1 &&
-               layout.maximumIntegerDigits >= mostDigitsOf64Bits;
-    }
-
-    ThousandsPart(std::uint64_t whole, const DigitLayout& layout) noexcept
-        : whole_(whole),
-          isEmpty_(whole == 0 && layout.minimumIntegerDigits == 0),
-          triples_(layout.zeroDigit) {
-        if (layout.groupSize != 0) {
-            separator_ = layout.groupingSeparator;
-        }
-    }
-
-    std::size_t size() const noexcept {
-        return mostGroups * (DigitTriples::room + separator_.size());
-    }
-
-    char* writeTo(char* at) const noexcept {
-        if (isEmpty_) {
-            return at;
-        }
-        std::uint16_t groups[mostGroups];
-        std::size_t count = 0;
-        std::uint64_t rest = whole_;
-        for (; rest >= 1000; rest /= 1000) {
-            groups[count++] = static_cast<std::uint16_t>(rest % 1000);
-        }
-        const std::string_view separator = separator_;
-        const DigitTriples triples = triples_;
-        at = triples.writeFirst(static_cast<unsigned int>(rest), at);
-        while (count > 0) {
-            at = triples.write(groups[--count], put(separator, at));
-        }
+// Writes a whole number of a usual layout. Its groups but the first wait in ten bits each.
+char* writeThousands(std::uint64_t whole, const DigitLayout& layout, DigitTriples triples,
+                     char* at) noexcept {
+    if (whole == 0 && layout.minimumIntegerDigits == 0) {
         return at;
     }
-
-private:
-    static constexpr std::size_t mostGroups = 7;
-
-    std::uint64_t whole_;
-    bool isEmpty_;
-    DigitTriples triples_;
-    std::string_view separator_;
-};
+    std::uint64_t groups = 0;
+    int count = 0;
+    for (; whole >= 1000; whole /= 1000) {
+        groups = groups << 10 | whole % 1000;
+        ++count;
+    }
+    const bool isGrouped = layout.groupSize != 0;
+    const char separator = isGrouped ? layout.groupingSeparator.front() : '\0';
+    at = triples.writeFirst(static_cast<unsigned int>(whole), at);
+    for (; count > 0; --count) {
+        *at = separator;
+        at = triples.write(static_cast<unsigned int>(groups & 0x3FF), at + isGrouped);
+        groups >>= 10;
+    }
+    return at;
+}
 
 // The digits of a whole number, without a zero in front.
 class WholeDigits {
@@ -145,7 +118,7 @@ public:
         std::size_t leftInGroup = count_ - separators_ * layout_.groupSize;
         for (std::size_t left = count_; left > 0; --left) {
             if (leftInGroup == 0) {
-                at = put(separator, at);
+                at = std::copy(separator.begin(), separator.end(), at);
                 leftInGroup = layout_.groupSize;
             }
             const int digit = left > digits_.size() ? 0 : digits_[digits_.size() - left] - '0';
@@ -211,22 +184,14 @@ public:
     unsigned int next(std::size_t) const noexcept { return 0; }
 };
 
-// The most bytes that `writeFraction` may touch, where a fraction has at most `digits` digits.
-std::size_t roomFor(std::size_t digits, const DigitLayout& layout) noexcept {
-    return layout.decimalSeparator.size() + DigitTriples::room +
-           std::max(std::min(digits, layout.maximumFractionDigits), layout.minimumFractionDigits);
-}
-
-// Digits up to the last one that isn't zero, and on to the minimum. Without any there is no
-// separator either.
+// Writes the digits behind a separator up to the last one that isn't zero, and on to the minimum.
+// Without any the number ends at the point, in front of the separator.
 template <class Fraction>
-char* writeFraction(Fraction fraction, const DigitLayout& layout, char* const point) noexcept {
+char* writeFraction(Fraction fraction, const DigitLayout& layout, DigitTriples triples, char* point,
+                    char* at) noexcept {
     const std::size_t most = layout.maximumFractionDigits;
     const std::size_t least = std::min(layout.minimumFractionDigits, most);
-    const DigitTriples triples(layout.zeroDigit);
-    char* const first = put(layout.decimalSeparator, point);
-    char* end = least > 0 ? first + least : point;
-    char* at = first;
+    char* end = least > 0 ? at + least : point;
     for (std::size_t left = most; left > 0 && !fraction.isZero();) {
         const std::size_t digits = std::min<std::size_t>(left, 3);
         const unsigned int number = fraction.next(digits) * tens[3 - digits];
@@ -242,14 +207,21 @@ char* writeFraction(Fraction fraction, const DigitLayout& layout, char* const po
     return end;
 }
 
-template <class Integer, class Fraction>
-void append(const Integer& integer, Fraction fraction, std::size_t fractionDigits,
-            const DigitLayout& layout, TextOutput& out) {
-    const std::size_t most = integer.size() + roomFor(fractionDigits, layout);
+template <class Fraction>
+void appendInAnyLayout(std::string_view whole, Fraction fraction, std::size_t fractionDigits,
+                       const DigitLayout& layout, TextOutput& out) {
+    const IntegerPart integer(whole, layout);
+    const std::string_view separator = layout.decimalSeparator;
+    const std::size_t most =
+        integer.size() + separator.size() + DigitTriples::room +
+        std::max(std::min(fractionDigits, layout.maximumFractionDigits),
+                 layout.minimumFractionDigits);
     const bool fits = most <= TextOutput::largestRoom;
     const std::unique_ptr<char[]> large(fits ? nullptr : new char[most]);
     char* const begin = fits ? out.room(most) : large.get();
-    char* const end = writeFraction(fraction, layout, integer.writeTo(begin));
+    char* const point = integer.writeTo(begin);
+    char* const end = writeFraction(fraction, layout, DigitTriples(layout.zeroDigit), point,
+                                    std::copy(separator.begin(), separator.end(), point));
     if (fits) {
         out.advanceTo(end);
     } else {
@@ -258,14 +230,21 @@ void append(const Integer& integer, Fraction fraction, std::size_t fractionDigit
 }
 
 template <class Fraction>
-void append(std::uint64_t whole, Fraction fraction, std::size_t fractionDigits,
-            const DigitLayout& layout, TextOutput& out) {
-    if (ThousandsPart::fits(layout)) {
-        append(ThousandsPart(whole, layout), fraction, fractionDigits, layout, out);
-    } else {
-        const WholeDigits digits(whole);
-        append(IntegerPart(digits.text(), layout), fraction, fractionDigits, layout, out);
+[[gnu::noinline]] void appendInAnyLayout(std::uint64_t whole, Fraction fraction,
+                                         const DigitLayout& layout, TextOutput& out) {
+    appendInAnyLayout(WholeDigits(whole).text(), fraction, mostFractionDigits, layout, out);
+}
+
+template <class Fraction>
+void append(std::uint64_t whole, Fraction fraction, const DigitLayout& layout, TextOutput& out) {
+    if (!isUsual(layout)) {
+        appendInAnyLayout(whole, fraction, layout, out);
+        return;
     }
+    const DigitTriples triples(layout.zeroDigit);
+    char* const point = writeThousands(whole, layout, triples, out.room(usualRoom));
+    *point = layout.decimalSeparator.front();
+    out.advanceTo(writeFraction(fraction, layout, triples, point, point + 1));
 }
 
 } // namespace
@@ -280,24 +259,21 @@ double roundingOf(int maximumFractionDigits) noexcept {
 
 void appendDigits(double x, const DigitLayout& layout, TextOutput& out) {
     if (x >= exactIntegers) {
-        const WholeDigits digits(x);
-        append(IntegerPart(digits.text(), layout), NoFraction(), 0, layout, out);
+        appendInAnyLayout(WholeDigits(x).text(), NoFraction(), 0, layout, out);
         return;
     }
     const auto whole = static_cast<std::int64_t>(x);
     const double fraction = x - static_cast<double>(whole);
     // From 4 on the last bit of x is worth 2 to the power -50 or more.
     if (whole >= 4) {
-        append(static_cast<std::uint64_t>(whole), ExactFraction(fraction), mostFractionDigits,
-               layout, out);
+        append(static_cast<std::uint64_t>(whole), ExactFraction(fraction), layout, out);
     } else {
-        append(static_cast<std::uint64_t>(whole), AnyFraction(fraction), mostFractionDigits, layout,
-               out);
+        append(static_cast<std::uint64_t>(whole), AnyFraction(fraction), layout, out);
     }
 }
 
 void appendDigits(std::uint64_t whole, const DigitLayout& layout, TextOutput& out) {
-    append(whole, NoFraction(), 0, layout, out);
+    append(whole, NoFraction(), layout, out);
 }
 
 } // namespace zem::msglib

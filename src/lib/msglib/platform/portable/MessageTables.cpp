@@ -55,16 +55,16 @@ std::uint32_t FormatMessageW(std::uint32_t flags, HMODULE module, std::uint32_t 
     if (module == nullptr || buffer == nullptr) {
         return failure(ERROR_INVALID_PARAMETER);
     }
-    const auto text = findInModule(module, languageId, messageId);
-    if (!text) {
+    const MessageText text = findInModule(module, languageId, messageId);
+    if (text.isEmpty()) {
         return failure(ERROR_MR_MID_NOT_FOUND);
     }
-    char16_t* const copy = copyOf(*text);
+    char16_t* const copy = copyOf(text);
     if (copy == nullptr) {
         return failure(ERROR_NOT_ENOUGH_MEMORY);
     }
     std::memcpy(buffer, &copy, sizeof copy);
-    return static_cast<std::uint32_t>(text->length());
+    return static_cast<std::uint32_t>(text.length());
 }
 
 void LocalFree(void* memory) noexcept {

@@ -102,19 +102,20 @@ HMODULE moduleHolding(const void* address) noexcept {
     return search.module;
 }
 
-std::optional<MessageText> findInModule(HMODULE module, std::uint32_t languageId,
-                                        std::uint32_t messageId) noexcept {
+MessageText findInModule(HMODULE module, std::uint32_t languageId,
+                         std::uint32_t messageId) noexcept {
     const Layout layout = layoutOf(module);
     for (const ProgramHeader& header : layout) {
         if (header.p_type != PT_NOTE || !layout.maps(header.p_vaddr, header.p_filesz)) {
             continue;
         }
         const Bytes notes(layout.at(header.p_vaddr), header.p_filesz);
-        if (auto text = findInNotes(notes, header.p_align, languageId, messageId)) {
+        const MessageText text = findInNotes(notes, header.p_align, languageId, messageId);
+        if (!text.isEmpty()) {
             return text;
         }
     }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace zem::msglib::platform

@@ -4,7 +4,6 @@
 #include "platform/portable/TableReader.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace zem::msglib::platform {
 
@@ -18,7 +17,7 @@ HMODULE moduleHolding(const void* address) noexcept;
 /// still loaded.
 ///
 /// Reads memory and nothing else: no lock, no call of the loader, no allocation.
-std::optional<MessageText> findInModule(HMODULE module, std::uint32_t languageId,
-                                        std::uint32_t messageId) noexcept;
+MessageText findInModule(HMODULE module, std::uint32_t languageId,
+                         std::uint32_t messageId) noexcept;
 
 } // namespace zem::msglib::platform

@@ -25,10 +25,10 @@ bool isTable(Bytes name, std::uint32_t type) noexcept {
            std::memcmp(name.data(), tableName, sizeof tableName) == 0;
 }
 
-std::optional<MessageText> findInTable(Bytes descriptor, std::uint32_t languageId,
-                                       std::uint32_t messageId) noexcept {
+MessageText findInTable(Bytes descriptor, std::uint32_t languageId,
+                        std::uint32_t messageId) noexcept {
     if (!descriptor.holds(0, tableHeaderSize) || nativeU32(descriptor, 0) != languageId) {
-        return std::nullopt;
+        return {};
     }
     const Bytes table = descriptor.part(tableHeaderSize, nativeU32(descriptor, 4));
     return TableReader(table).find(messageId);
@@ -36,8 +36,8 @@ std::optional<MessageText> findInTable(Bytes descriptor, std::uint32_t languageI
 
 } // namespace
 
-std::optional<MessageText> findInNotes(Bytes notes, std::size_t alignment, std::uint32_t languageId,
-                                       std::uint32_t messageId) noexcept {
+MessageText findInNotes(Bytes notes, std::size_t alignment, std::uint32_t languageId,
+                        std::uint32_t messageId) noexcept {
     const std::uint64_t unit = alignment == 8 ? 8 : 4;
     const auto aligned = [unit](std::uint64_t offset) { return (offset + unit - 1) & ~(unit - 1); };
     // 64 bits, so that two lengths of 32 bits cannot wrap on any machine.
@@ -49,18 +49,19 @@ std::optional<MessageText> findInNotes(Bytes notes, std::size_t alignment, std::
         const std::uint64_t descriptorAt = aligned(noteHeaderSize + std::uint64_t{nameSize});
         const std::uint64_t end = descriptorAt + descriptorSize;
         if (end > rest.size()) {
-            return std::nullopt;
+            return {};
         }
         if (isTable(rest.part(noteHeaderSize, nameSize), nativeU32(rest, 8))) {
             const Bytes descriptor =
                 rest.part(static_cast<std::size_t>(descriptorAt), descriptorSize);
-            if (auto text = findInTable(descriptor, languageId, messageId)) {
+            const MessageText text = findInTable(descriptor, languageId, messageId);
+            if (!text.isEmpty()) {
                 return text;
             }
         }
         offset += aligned(end);
     }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace zem::msglib::platform

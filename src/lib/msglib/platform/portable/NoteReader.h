@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 
 namespace zem::msglib::platform {
 
@@ -20,7 +19,7 @@ namespace zem::msglib::platform {
 ///
 /// @param notes      the segment, whatever it holds
 /// @param alignment  of the segment, as its program header tells it
-std::optional<MessageText> findInNotes(Bytes notes, std::size_t alignment, std::uint32_t languageId,
-                                       std::uint32_t messageId) noexcept;
+MessageText findInNotes(Bytes notes, std::size_t alignment, std::uint32_t languageId,
+                        std::uint32_t messageId) noexcept;
 
 } // namespace zem::msglib::platform

@@ -15,23 +15,31 @@ constexpr std::size_t entryHeaderSize = 4;
 
 constexpr std::uint16_t utf16Flag = 1;
 
-/// Tells whether one of the four units from `at` on is NUL, in either byte order. After "Determine
+constexpr std::uint32_t unitsAtOnce = 8;
+
+/// Has a bit set if one of the four units in a word is NUL, in either byte order. After "Determine
 /// if a word has a zero byte" of Sean Anderson's Bit Twiddling Hacks.
+constexpr std::uint64_t nulUnits(std::uint64_t units) noexcept {
+    constexpr std::uint64_t everyUnit = 0x0001'0001'0001'0001;
+    return (units - everyUnit) & ~units & everyUnit << 15;
+}
+
+/// Tells whether one of the eight units from `at` on is NUL.
 bool hasNulUnit(const unsigned char* at) noexcept {
-    constexpr std::uint64_t everyUnit = 0x0001000100010001;
-    std::uint64_t units = 0;
-    std::memcpy(&units, at, sizeof units);
-    return ((units - everyUnit) & ~units & everyUnit << 15) != 0;
+    std::uint64_t words[2];
+    std::memcpy(words, at, sizeof words);
+    return (nulUnits(words[0]) | nulUnits(words[1])) != 0;
 }
 
 } // namespace
 
-MessageText::MessageText(Bytes bytes, std::size_t unitBytes) noexcept
-    : bytes_(bytes),
+MessageText::MessageText(Bytes bytes, std::uint32_t unitBytes) noexcept
+    : data_(bytes.data()),
       unitBytes_(unitBytes) {
-    const std::size_t limit = bytes.size() / unitBytes;
-    while (unitBytes == 2 && limit - length_ >= 4 && !hasNulUnit(bytes.data() + length_ * 2)) {
-        length_ += 4;
+    const auto limit = static_cast<std::uint32_t>(bytes.size() / unitBytes);
+    while (unitBytes == 2 && limit - length_ >= unitsAtOnce &&
+           !hasNulUnit(data_ + length_ * 2)) {
+        length_ += unitsAtOnce;
     }
     while (length_ < limit && unitAt(length_) != 0) {
         ++length_;
@@ -40,18 +48,18 @@ MessageText::MessageText(Bytes bytes, std::size_t unitBytes) noexcept
 
 void MessageText::copyTo(char16_t* units) const noexcept {
     if (unitBytes_ == 1) {
-        std::copy_n(bytes_.data(), length_, units);
+        std::copy_n(data_, length_, units);
         return;
     }
-    std::memcpy(units, bytes_.data(), length_ * sizeof *units);
+    std::copy_n(data_, length_ * sizeof *units, reinterpret_cast<unsigned char*>(units));
     std::for_each(units, units + length_, boost::endian::little_to_native_inplace<char16_t>);
 }
 
-std::optional<MessageText> TableReader::find(std::uint32_t messageId) const noexcept {
+MessageText TableReader::find(std::uint32_t messageId) const noexcept {
     const std::size_t block = blockFor(messageId);
     const std::uint32_t lowest = table_.u32(block);
     if (!table_.holds(block, blockSize) || messageId < lowest) {
-        return std::nullopt;
+        return {};
     }
     return textAt(table_.u32(block + 8), messageId - lowest);
 }
@@ -62,35 +70,33 @@ std::size_t TableReader::blockFor(std::uint32_t messageId) const noexcept {
     const std::size_t room =
         table_.holds(0, countSize) ? (table_.size() - countSize) / blockSize : 0;
     const std::size_t blocks = std::min<std::size_t>(table_.u32(0), room);
-    const auto endsBefore = [this, messageId](std::size_t block) {
-        return table_.u32(countSize + block * blockSize + 4) < messageId;
-    };
-    std::size_t first = 0;
+    const std::size_t end = countSize + blocks * blockSize;
+    std::size_t first = countSize;
     for (std::size_t count = blocks; count > 0;) {
         const std::size_t half = (count + 1) / 2;
-        first += endsBefore(first + half - 1) ? half : 0;
+        const std::size_t behind = first + half * blockSize;
+        const bool endsBefore = table_.u32(behind - blockSize + 4) < messageId;
+        first = endsBefore ? behind : first;
         count -= half;
     }
-    return first < blocks ? countSize + first * blockSize : table_.size();
+    return first < end ? first : table_.size();
 }
 
-std::optional<MessageText> TableReader::textAt(std::size_t offset,
-                                               std::uint32_t entriesToSkip) const noexcept {
+MessageText TableReader::textAt(std::size_t offset, std::uint32_t entriesToSkip) const noexcept {
     std::size_t length = table_.u16(offset);
     for (; entriesToSkip > 0; --entriesToSkip) {
         if (length < entryHeaderSize) {
-            return std::nullopt;
+            return {};
         }
         offset += length;
         length = table_.u16(offset);
     }
     const std::uint16_t flags = table_.u16(offset + 2);
     if (length < entryHeaderSize || flags > utf16Flag) {
-        return std::nullopt;
+        return {};
     }
     const Bytes bytes = table_.part(offset + entryHeaderSize, length - entryHeaderSize);
-    const MessageText text(bytes, flags == utf16Flag ? 2 : 1);
-    return text.length() > 0 ? std::optional(text) : std::nullopt;
+    return {bytes, flags == utf16Flag ? 2U : 1U};
 }
 
 } // namespace zem::msglib::platform

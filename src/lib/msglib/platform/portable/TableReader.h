@@ -4,18 +4,24 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 
 namespace zem::msglib::platform {
 
-/// The text of one message where it lies in its table, as UTF-16 units.
+/// The text of one message where it lies in its table, as UTF-16 units, or none.
 ///
-/// It ends before the first NUL, or where its entry ends.
+/// It ends before the first NUL, or where its entry ends. It is two words, which functions hand on
+/// without memory.
 class MessageText {
 public:
-    /// @param bytes      the text of an entry, without the header of the entry
+    /// Makes no text.
+    constexpr MessageText() noexcept = default;
+
+    /// @param bytes      the text of an entry, at most 65,535 bytes, without the header of the entry
     /// @param unitBytes  2 for UTF-16, 1 for bytes that are code points themselves
-    MessageText(Bytes bytes, std::size_t unitBytes) noexcept;
+    MessageText(Bytes bytes, std::uint32_t unitBytes) noexcept;
+
+    /// Tells whether there is no text; a message without any unit is none.
+    bool isEmpty() const noexcept { return length_ == 0; }
 
     std::size_t length() const noexcept { return length_; }
 
@@ -24,13 +30,13 @@ public:
 
 private:
     char16_t unitAt(std::size_t index) const noexcept {
-        const unsigned char* at = bytes_.data() + index * unitBytes_;
+        const unsigned char* at = data_ + index * unitBytes_;
         return static_cast<char16_t>(unitBytes_ == 2 ? at[0] | at[1] << 8 : at[0]);
     }
 
-    Bytes bytes_;
-    std::size_t unitBytes_;
-    std::size_t length_ = 0;
+    const unsigned char* data_ = nullptr;
+    std::uint32_t unitBytes_ = 0;
+    std::uint32_t length_ = 0;
 };
 
 /// Reads a compiled message table.
@@ -47,15 +53,14 @@ class TableReader {
 public:
     explicit TableReader(Bytes table) noexcept : table_(table) {}
 
-    /// Returns the text of `messageId`, unless there is none or it is empty.
+    /// Returns the text of `messageId`, if there is one.
     ///
     /// Takes a binary search over the blocks and a walk inside one of them.
-    std::optional<MessageText> find(std::uint32_t messageId) const noexcept;
+    MessageText find(std::uint32_t messageId) const noexcept;
 
 private:
     std::size_t blockFor(std::uint32_t messageId) const noexcept;
-    std::optional<MessageText> textAt(std::size_t offset,
-                                      std::uint32_t entriesToSkip) const noexcept;
+    MessageText textAt(std::size_t offset, std::uint32_t entriesToSkip) const noexcept;
 
     Bytes table_;
 };

@@ -48,9 +48,7 @@ public:
     void advanceTo(char* end) noexcept { end_ = end; }
 
     /// Returns the length of the string with what has gathered.
-    std::size_t size() const noexcept {
-        return out_.size() + gathered().size();
-    }
+    std::size_t size() const noexcept { return out_.size() + gathered().size(); }
 
     /// Returns what has gathered, until the next change.
     std::string_view gathered() const noexcept {

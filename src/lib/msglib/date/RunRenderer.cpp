@@ -10,6 +10,8 @@ namespace zem::msglib {
 
 namespace {
 
+constexpr int firstSize = 64;
+
 // Returns the end of the text that the platform has written. It is fresh in memory, which block
 // operations would have to wait for.
 char* endOfText(char* text, int written) noexcept {
@@ -22,51 +24,67 @@ char* endOfText(char* text, int written) noexcept {
 
 } // namespace
 
+// As long as the first size is enough, the platform writes to where the text goes.
 void RunRenderer::append(PictureOperation operation, char letter, std::size_t length,
                          TextOutput& out) {
-    const char* picture = pictureOf(letter, length);
-    bool mayGrow = true;
-    while (!write(operation, picture, out) && mayGrow &&
-           platform::GetLastError() == platform::ERROR_INSUFFICIENT_BUFFER &&
-           grow(write(operation, picture, nullptr, 0))) {
-        mayGrow = false;
+    const char* const picture = pictureOf(letter, length);
+    if (!grown_.empty()) {
+        appendThroughBuffer(operation, picture, out);
+        return;
+    }
+    char* const room = out.room(firstSize);
+    const int written = write(operation, picture, room, firstSize);
+    out.advanceTo(endOfText(room, written));
+    if (written == 0 && growFor(operation, picture)) {
+        appendGrown(operation, picture, out);
     }
 }
 
-// As long as the first size is enough, the platform writes to where the text goes.
-bool RunRenderer::write(PictureOperation operation, const char* picture, TextOutput& out) {
-    const bool isFirst = grown_.empty();
-    char* const buffer = isFirst ? out.room(firstSize) : grown_.data();
-    const int written = write(operation, picture, buffer, size());
-    char* const end = endOfText(buffer, written);
-    if (isFirst) {
-        out.advanceTo(end);
-    } else {
-        out.append({buffer, static_cast<std::size_t>(end - buffer)});
+// Nearly all runs go without what follows, and need not make room for it.
+
+[[gnu::noinline]] void RunRenderer::appendThroughBuffer(PictureOperation operation,
+                                                        const char* picture, TextOutput& out) {
+    if (!appendGrown(operation, picture, out) && growFor(operation, picture)) {
+        appendGrown(operation, picture, out);
     }
+}
+
+bool RunRenderer::appendGrown(PictureOperation operation, const char* picture, TextOutput& out) {
+    char* const buffer = grown_.data();
+    const int written = write(operation, picture, buffer, static_cast<int>(grown_.size()));
+    out.append({buffer, static_cast<std::size_t>(endOfText(buffer, written) - buffer)});
     return written != 0;
 }
 
-const char* RunRenderer::pictureOf(char letter, std::size_t length) {
-    if (length < sizeof shortPicture_) {
-        std::fill(std::begin(shortPicture_), std::end(shortPicture_), letter);
-        shortPicture_[length] = '\0';
-        return shortPicture_;
+// Makes room for the length that the platform asks for, if that is why it has refused a run.
+[[gnu::noinline]] bool RunRenderer::growFor(PictureOperation operation, const char* picture) {
+    if (platform::GetLastError() != platform::ERROR_INSUFFICIENT_BUFFER) {
+        return false;
     }
+    const int needed = write(operation, picture, nullptr, 0);
+    if (needed > 0) {
+        grown_.resize(
+            std::max({std::size_t{firstSize}, grown_.size(), static_cast<std::size_t>(needed)}));
+    }
+    return needed > 0;
+}
+
+const char* RunRenderer::pictureOf(char letter, std::size_t length) {
+    if (length >= sizeof shortPicture_) {
+        return longPictureOf(letter, length);
+    }
+    std::fill(std::begin(shortPicture_), std::end(shortPicture_), letter);
+    shortPicture_[length] = '\0';
+    return shortPicture_;
+}
+
+[[gnu::noinline]] const char* RunRenderer::longPictureOf(char letter, std::size_t length) {
     return longPicture_.assign(length, letter).c_str();
 }
 
 int RunRenderer::write(PictureOperation operation, const char* picture, char* buffer,
                        int size) const noexcept {
     return operation(platform::localeIdentifier, 0, &time_, picture, buffer, size);
-}
-
-// Makes room for the length that the platform asks for, which is 0 if it doesn't tell.
-bool RunRenderer::grow(int needed) {
-    if (needed > size()) {
-        grown_.resize(static_cast<std::size_t>(needed));
-    }
-    return needed > 0;
 }
 
 } // namespace zem::msglib

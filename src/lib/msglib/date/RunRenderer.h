@@ -22,16 +22,13 @@ public:
     void append(PictureOperation operation, char letter, std::size_t length, TextOutput& out);
 
 private:
-    static constexpr std::size_t firstSize = 64;
-
+    void appendThroughBuffer(PictureOperation operation, const char* picture, TextOutput& out);
+    bool appendGrown(PictureOperation operation, const char* picture, TextOutput& out);
+    bool growFor(PictureOperation operation, const char* picture);
     const char* pictureOf(char letter, std::size_t length);
-    bool write(PictureOperation operation, const char* picture, TextOutput& out);
+    const char* longPictureOf(char letter, std::size_t length);
     int write(PictureOperation operation, const char* picture, char* buffer,
               int size) const noexcept;
-    bool grow(int needed);
-    int size() const noexcept {
-        return static_cast<int>(grown_.empty() ? firstSize : grown_.size());
-    }
 
     platform::SYSTEMTIME time_;
     std::vector<char> grown_;

@@ -76,9 +76,9 @@ std::size_t DirectRenderer::renderTyped(std::string_view pattern, std::size_t po
         return renderScanned(pattern, position, argument);
     }
     const std::string_view type = pattern.substr(position, typeEnd - position);
-    const std::string_view style =
-        styleEnd > typeEnd ? pattern.substr(typeEnd + 1, styleEnd - typeEnd - 1)
-                           : std::string_view();
+    const std::string_view style = styleEnd > typeEnd
+                                       ? pattern.substr(typeEnd + 1, styleEnd - typeEnd - 1)
+                                       : std::string_view();
     return renderStyled(type, style, argument) ? styleEnd + 1 : nowhere;
 }
 

@@ -52,7 +52,8 @@ void MessageRenderer::renderElement(const FormatElement& element) {
 
 // The chosen text is a message of its own: its elements come next, and what stands behind the
 // choice follows the last one. Not inline, so that other elements need not make room for it.
-[[gnu::noinline]] void MessageRenderer::expandChoice(const FormatElement& element, const boost::any& argument) {
+[[gnu::noinline]] void MessageRenderer::expandChoice(const FormatElement& element,
+                                                     const boost::any& argument) {
     std::string text;
     element.format_->format(argument, text);
     rendersDirectly_ = rendersDirectly_ && DirectRenderer(arguments_.list(), out_).render(text);

@@ -33,8 +33,7 @@ constexpr std::size_t usualRoom = 128;
 
 bool isUsual(const DigitLayout& layout) noexcept {
     constexpr std::size_t fewDigits = 64;
-    const bool isGroupedByThree =
-        layout.groupSize == 3 && layout.groupingSeparator.size() == 1;
+    const bool isGroupedByThree = layout.groupSize == 3 && layout.groupingSeparator.size() == 1;
     return (isGroupedByThree || layout.groupSize == 0) && layout.minimumIntegerDigits <= 1 &&
            layout.maximumIntegerDigits >= mostDigitsOf64Bits &&
            layout.maximumFractionDigits <= fewDigits && layout.decimalSeparator.size() == 1;
@@ -212,10 +211,9 @@ void appendInAnyLayout(std::string_view whole, Fraction fraction, std::size_t fr
                        const DigitLayout& layout, TextOutput& out) {
     const IntegerPart integer(whole, layout);
     const std::string_view separator = layout.decimalSeparator;
-    const std::size_t most =
-        integer.size() + separator.size() + DigitTriples::room +
-        std::max(std::min(fractionDigits, layout.maximumFractionDigits),
-                 layout.minimumFractionDigits);
+    const std::size_t most = integer.size() + separator.size() + DigitTriples::room +
+                             std::max(std::min(fractionDigits, layout.maximumFractionDigits),
+                                      layout.minimumFractionDigits);
     const bool fits = most <= TextOutput::largestRoom;
     const std::unique_ptr<char[]> large(fits ? nullptr : new char[most]);
     char* const begin = fits ? out.room(most) : large.get();

@@ -22,12 +22,12 @@ struct Name {
 
 constexpr std::size_t abbreviationLength = 3;
 
-constexpr Name dayNames[] = {{"Sunday", 6},    {"Monday", 6},   {"Tuesday", 7}, {"Wednesday", 9},
+constexpr Name dayNames[] = {{"Sunday", 6},   {"Monday", 6}, {"Tuesday", 7}, {"Wednesday", 9},
                              {"Thursday", 8}, {"Friday", 6}, {"Saturday", 8}};
 
-constexpr Name monthNames[] = {{"January", 7}, {"February", 8},  {"March", 5},   {"April", 5},
-                               {"May", 3},     {"June", 4},      {"July", 4},    {"August", 6},
-                               {"September", 9}, {"October", 7}, {"November", 8}, {"December", 8}};
+constexpr Name monthNames[] = {{"January", 7},   {"February", 8}, {"March", 5},    {"April", 5},
+                               {"May", 3},       {"June", 4},     {"July", 4},     {"August", 6},
+                               {"September", 9}, {"October", 7},  {"November", 8}, {"December", 8}};
 
 /// Writes a name or, for a run of three letters, its abbreviation. This and all below return where
 /// the field ends.
@@ -123,8 +123,8 @@ const char* appendQuoted(const char* at, TextBuffer& out) noexcept {
 }
 
 template <class WriteField>
-[[gnu::noinline]] int writeRuns(const SYSTEMTIME& time, const char* picture, WriteField writeField, char* buffer,
-              int size) noexcept {
+[[gnu::noinline]] int writeRuns(const SYSTEMTIME& time, const char* picture, WriteField writeField,
+                                char* buffer, int size) noexcept {
     TextBuffer out(buffer, size);
     while (*picture != '\0') {
         if (*picture == '\'') {
@@ -134,9 +134,8 @@ template <class WriteField>
         char field[longestField];
         const auto length = static_cast<std::size_t>(endOfRun(picture) - picture);
         const char* const end = writeField(time, *picture, length, field);
-        out.append(end != nullptr
-                       ? std::string_view(field, static_cast<std::size_t>(end - field))
-                       : std::string_view(picture, length));
+        out.append(end != nullptr ? std::string_view(field, static_cast<std::size_t>(end - field))
+                                  : std::string_view(picture, length));
         picture += length;
     }
     return out.finish();

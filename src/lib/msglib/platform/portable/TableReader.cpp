@@ -37,8 +37,7 @@ MessageText::MessageText(Bytes bytes, std::uint32_t unitBytes) noexcept
     : data_(bytes.data()),
       unitBytes_(unitBytes) {
     const auto limit = static_cast<std::uint32_t>(bytes.size() / unitBytes);
-    while (unitBytes == 2 && limit - length_ >= unitsAtOnce &&
-           !hasNulUnit(data_ + length_ * 2)) {
+    while (unitBytes == 2 && limit - length_ >= unitsAtOnce && !hasNulUnit(data_ + length_ * 2)) {
         length_ += unitsAtOnce;
     }
     while (length_ < limit && unitAt(length_) != 0) {

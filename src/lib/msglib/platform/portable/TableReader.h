@@ -16,7 +16,8 @@ public:
     /// Makes no text.
     constexpr MessageText() noexcept = default;
 
-    /// @param bytes      the text of an entry, at most 65,535 bytes, without the header of the entry
+    /// @param bytes      the text of an entry, at most 65,535 bytes, without the header of the
+    /// entry
     /// @param unitBytes  2 for UTF-16, 1 for bytes that are code points themselves
     MessageText(Bytes bytes, std::uint32_t unitBytes) noexcept;
 

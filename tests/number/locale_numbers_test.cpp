@@ -63,6 +63,9 @@ TEST(LocaleSymbols, EachComesFromItsOwnQuery) {
 TEST(LocaleSymbols, StandInTexts) {
     LocaleValues digits = otherSymbols;
     digits[LOCALE_SNATIVEDIGITS] = "0";
+    const LocaleValues highDigits = {{LOCALE_SNATIVEDIGITS, "\xF0"}};
+    const LocaleValues wide = {
+        {LOCALE_SNATIVEDIGITS, "\x7C"}, {LOCALE_STHOUSAND, ", "}, {LOCALE_SDECIMAL, "::"}};
     const LocaleValues none = {
         {LOCALE_STHOUSAND, ""}, {LOCALE_SDECIMAL, ""}, {LOCALE_SNEGATIVESIGN, ""}};
     const struct {
@@ -80,6 +83,9 @@ TEST(LocaleSymbols, StandInTexts) {
         {__LINE__, digits, "#,##0.0;#\xA4", 1234.5, "1'234:5", "1'234:0"},
         {__LINE__, digits, "0.###E0", -0.00123, "~1,23E~3", "0E0"},
         {__LINE__, none, "#,##0.0", -1234567.5, "12345675", "12345670"},
+        {__LINE__, highDigits, "#,##0.###", 1234567.5, "\xF1,\xF2\xF3\xF4,\xF5\xF6\xF7.\xF5",
+         "\xF1,\xF2\xF3\xF4,\xF5\xF6\xF7"},
+        {__LINE__, wide, "#,##0.0###", 1024.0625, "}, |~\x80::|\x82~\x81", "}, |~\x80::|"},
         {__LINE__, otherSymbols, "00,000.0E00", 1230.0, "BC.DAA,AE~AB", "BC.DAA,AE~AB"},
     };
     for (const auto& row : rows) {

@@ -73,8 +73,8 @@ public:
 
     /// Appends the message with `args` to `out`, which keeps what it held, and returns `out`.
     ///
-    /// Arguments that no placeholder names are ignored. After a failure `out` keeps what was
-    /// appended in front of it.
+    /// Arguments that no placeholder names are ignored. `out` must not be the text of one of them.
+    /// After a failure `out` keeps what was appended in front of it.
     ///
     ///     MessageFormat("{1} and {0}") with "a", "b" -> "b and a"
     ///

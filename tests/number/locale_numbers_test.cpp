@@ -65,7 +65,7 @@ TEST(LocaleSymbols, StandInTexts) {
     digits[LOCALE_SNATIVEDIGITS] = "0";
     const LocaleValues highDigits = {{LOCALE_SNATIVEDIGITS, "\xF0"}};
     const LocaleValues wide = {
-        {LOCALE_SNATIVEDIGITS, "\x7C"}, {LOCALE_STHOUSAND, ", "}, {LOCALE_SDECIMAL, "::"}};
+        {LOCALE_SNATIVEDIGITS, "|"}, {LOCALE_STHOUSAND, ", "}, {LOCALE_SDECIMAL, "::"}};
     const LocaleValues none = {
         {LOCALE_STHOUSAND, ""}, {LOCALE_SDECIMAL, ""}, {LOCALE_SNEGATIVESIGN, ""}};
     const struct {

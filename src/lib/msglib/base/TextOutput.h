@@ -20,11 +20,16 @@ public:
     TextOutput(const TextOutput&) = delete;
     TextOutput& operator=(const TextOutput&) = delete;
 
-    /// Lets `write(TextOutput&)` append to `out`; if it throws, what came before it is appended.
+    /// Lets `write(TextOutput&)` append to `out`, and returns `out`. If it throws, what came before
+    /// that is appended.
     template <class Write>
     static std::string& to(std::string& out, Write write);
 
-    void append(char byte) { *room(1) = byte, ++end_; }
+    /// Appends one byte.
+    void append(char byte) {
+        *room(1) = byte;
+        ++end_;
+    }
 
     /// Appends `text`, which must not lie in the string.
     void append(std::string_view text) {

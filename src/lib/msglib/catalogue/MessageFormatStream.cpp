@@ -22,7 +22,10 @@ struct MessageFormatStream::Impl {
                                    : MessageLibrary::instance().formatMessage(messageId_, args_);
     }
 
-    void add(boost::any&& argument) { args_.push_back(std::move(argument)); }
+    template <class Value>
+    void add(Value&& argument) {
+        args_.emplace_back(std::forward<Value>(argument));
+    }
 };
 
 MessageFormatStream::MessageFormatStream(unsigned int messageId) : impl_(std::make_unique<Impl>()) {

@@ -7,6 +7,7 @@
 #include "msglib/MessageFormat.h"
 
 #include <typeinfo>
+#include <utility>
 
 namespace zem::msglib {
 
@@ -82,12 +83,13 @@ std::string renderPattern(std::string_view pattern, const std::list<boost::any>&
     }
     TextOutput output(text);
     if (!DirectRenderer(args, output).render(pattern)) {
-        MessageFormat(std::string(pattern)).format(args, text);
-    } else if (text.capacity() < output.size() && text.empty()) {
-        return std::string(output.gathered());
-    } else {
-        output.finish();
+        return std::move(MessageFormat(std::string(pattern)).format(args, text));
     }
+    // A new string costs less than giving the empty one room.
+    if (text.empty() && text.capacity() < output.size()) {
+        return std::string(output.gathered());
+    }
+    output.finish();
     return text;
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string_view>
 
 namespace zem::msglib::platform {
 
@@ -81,7 +82,7 @@ int GetLocaleInfoA(std::uint32_t locale, std::uint32_t lctype, char* buffer, int
         return value.size;
     }
     TextBuffer text(buffer, size);
-    text.append(value.text);
+    text.append(std::string_view(value.text, static_cast<std::size_t>(value.size) - 1));
     return text.finish();
 }
 

@@ -4,7 +4,9 @@
 #include "message/DirectRenderer.h"
 #include "message/PlaceholderRenderer.h"
 #include "msglib/ChoiceFormat.h"
+#include "msglib/DecimalFormat.h"
 #include "msglib/MessageFormat.h"
+#include "msglib/SimpleDateFormat.h"
 
 #include <typeinfo>
 #include <utility>
@@ -13,9 +15,11 @@ namespace zem::msglib {
 
 namespace {
 
-// All formatters of elements are made here, so their type has one identity and no name to compare.
-bool isChoice(const Format& format) noexcept {
-    return &typeid(format) == &typeid(ChoiceFormat);
+// All formatters of elements are made here, so their types have one identity each and no name to
+// compare.
+template <class Kind>
+bool is(const Format& format) noexcept {
+    return &typeid(format) == &typeid(Kind);
 }
 
 } // namespace
@@ -42,11 +46,13 @@ void MessageRenderer::renderElement(const FormatElement& element) {
     const Format* format = element.format_.get();
     if (format == nullptr) {
         PlaceholderRenderer::appendByKind(argument, out_);
-    } else if (isChoice(*format)) {
+    } else if (is<ChoiceFormat>(*format)) {
         expandChoice(element, argument);
         return;
+    } else if (is<DecimalFormat>(*format)) {
+        static_cast<const DecimalFormat*>(format)->write(argument, out_);
     } else {
-        format->write(argument, out_);
+        static_cast<const SimpleDateFormat*>(format)->write(argument, out_);
     }
     out_.append(element.suffix_);
 }

@@ -8,6 +8,7 @@
 
 namespace zem::msglib {
 
+class TextOutput;
 struct DigitLayout;
 
 /// Writes numbers by a pattern such as "#,##0.00;(#,##0.00)".
@@ -81,6 +82,7 @@ public:
 
 private:
     friend class LocaleNumberFormat;
+    friend class MessageRenderer;
 
     std::size_t parseAffix(const std::string& pattern, std::size_t pos, std::string& affix,
                            bool suffix);
@@ -93,7 +95,7 @@ private:
     void reset();
 
     DigitLayout digitLayout() const noexcept;
-    void write(const boost::any& value, TextOutput& out) const override;
+    void write(const boost::any& value, TextOutput& out) const;
     void write(double value, TextOutput& out) const;
     void appendPrefix(bool negative, TextOutput& out) const;
     void appendSuffix(bool negative, TextOutput& out) const;

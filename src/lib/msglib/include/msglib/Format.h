@@ -8,8 +8,6 @@
 
 namespace zem::msglib {
 
-class TextOutput;
-
 /// Root of all formatters: renders one argument as text.
 ///
 /// An argument is a `boost::any`, and its kind is the exact type that it holds; nothing is
@@ -46,12 +44,6 @@ public:
 
     /// Returns the text of `value` alone; fails as the virtual operation does.
     std::string format(const boost::any& value);
-
-private:
-    friend class MessageRenderer;
-
-    // The same as `format`, into a text that messages are gathered in.
-    virtual void write(const boost::any& value, TextOutput& out) const;
 };
 
 } // namespace zem::msglib

@@ -8,6 +8,8 @@
 
 namespace zem::msglib {
 
+class TextOutput;
+
 /// Writes a point in time by a pattern such as "yyyy-MM-dd HH:mm:ss".
 ///
 /// A run of one letter of "dMyg" (day, month, year, era) or "hHmst" (hour of 12, hour of 24,
@@ -51,9 +53,10 @@ public:
     std::string& format(const boost::any& value, std::string& out) const override;
 
 private:
+    friend class MessageRenderer;
     friend class PlaceholderRenderer;
 
-    void write(const boost::any& value, TextOutput& out) const override;
+    void write(const boost::any& value, TextOutput& out) const;
     static void render(std::string_view pattern, const boost::any& value, TextOutput& out);
 
     static const std::string_view datePatternChars_;

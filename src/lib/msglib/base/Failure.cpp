@@ -1,7 +1,5 @@
 #include "base/Failure.h"
 
-#include <stdexcept>
-
 namespace zem::msglib {
 
 namespace {
@@ -40,6 +38,10 @@ void raise(Failure failure) {
     case Failure::LongOutOfRange: throw std::out_of_range(words);
     default: throw std::runtime_error(words);
     }
+}
+
+void raise(Failure failure, std::size_t position) {
+    throw PatternFailure(wordsOf(failure), position);
 }
 
 } // namespace zem::msglib

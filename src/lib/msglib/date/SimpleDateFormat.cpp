@@ -3,6 +3,7 @@
 #include "base/Scanning.h"
 #include "base/TextOutput.h"
 #include "date/CalendarTime.h"
+#include "date/DateText.h"
 #include "date/RunRenderer.h"
 
 #include <algorithm>
@@ -76,11 +77,12 @@ std::string& SimpleDateFormat::format(const boost::any& value, std::string& out)
 }
 
 void SimpleDateFormat::write(const boost::any& value, TextOutput& out) const {
-    render(pattern_, value, out);
+    appendDate(pattern_, value, out);
 }
 
-void SimpleDateFormat::render(std::string_view pattern, const boost::any& value, TextOutput& out) {
-    static constexpr Marks marks = marksFor(datePatternChars_, timePatternChars_);
+void appendDate(std::string_view pattern, const boost::any& value, TextOutput& out) {
+    static constexpr Marks marks =
+        marksFor(SimpleDateFormat::datePatternChars_, SimpleDateFormat::timePatternChars_);
     const auto seconds = readSeconds(value);
     const auto time = seconds ? calendarTime(*seconds) : std::nullopt;
     RunRenderer runs(time.value_or(platform::SYSTEMTIME()));

@@ -18,15 +18,12 @@ struct FormatElement {
 
     /// Makes the formatter that type and style ask for; an unknown type leaves `format_` as it is.
     ///
+    /// `format_` is unchanged after a failure, except that of a decimal pattern: its formatter is
+    /// kept as far as it was compiled.
+    ///
     /// @throws std::runtime_error "style_ required for choice format", or what the style's own
-    /// compiler says;
-    ///         `format_` is unchanged then, but for a decimal pattern: its formatter is kept as far
-    ///         as it was compiled
+    ///         compiler throws
     void buildFormat(const std::locale& locale);
-
-private:
-    void buildCustomNumber(const std::locale& locale);
-    void buildChoice();
 };
 
 } // namespace zem::msglib

@@ -4,8 +4,20 @@
 #include "base/TextOutput.h"
 #include "message/FormatElement.h"
 #include "message/MessageRenderer.h"
+#include "message/PlaceholderReader.h"
+
+#include <utility>
 
 namespace zem::msglib {
+
+namespace {
+
+// Returns a sink that appends to `text`.
+auto appendTo(std::string& text) noexcept {
+    return [&text](std::string_view piece) { text += piece; };
+}
+
+} // namespace
 
 MessageFormat::MessageFormat() = default;
 
@@ -19,9 +31,47 @@ MessageFormat& MessageFormat::operator=(const MessageFormat& other) = default;
 
 MessageFormat::~MessageFormat() = default;
 
+void MessageFormat::applyPattern(const std::string& pattern) {
+    elements_.clear();
+    pattern_ = pattern;
+    std::string scratch;
+    std::size_t position = parseStatic(pattern, 0, prefix_);
+    while (position < pattern.size()) {
+        position = parsePattern(pattern, position, scratch, locale_);
+    }
+}
+
+std::size_t MessageFormat::parseStatic(const std::string& pattern, std::size_t position,
+                                       std::string& text) const {
+    text.clear();
+    PlaceholderReader reader(pattern, position);
+    reader.readText(appendTo(text));
+    return reader.position();
+}
+
+std::size_t MessageFormat::parsePattern(const std::string& pattern, std::size_t position,
+                                        std::string& scratch, const std::locale& locale) {
+    FormatElement& element = elements_.emplace_back();
+    PlaceholderReader reader(pattern, position);
+    element.argumentIndex_ = reader.readIndex();
+    reader.readType(appendTo(element.type_));
+    reader.readStyle(appendTo(element.style_));
+    reader.readEnd();
+    // Text that fails is not stored.
+    position = parseStatic(pattern, reader.position(), scratch);
+    element.suffix_ = std::move(scratch);
+    element.buildFormat(locale);
+    return position;
+}
+
 std::string& MessageFormat::format(const std::list<boost::any>& args, std::string& out) const {
-    return TextOutput::to(
-        out, [&](TextOutput& text) { MessageRenderer(args, locale_, text).render(*this); });
+    return TextOutput::to(out, [&](TextOutput& text) {
+        text.append(prefix_);
+        MessageRenderer renderer(args, text);
+        for (const FormatElement& element : elements_) {
+            renderer.render(element);
+        }
+    });
 }
 
 std::string& MessageFormat::format(const boost::any& value, std::string& out) const {

@@ -1,55 +1,194 @@
 #include "message/PlaceholderStyle.h"
 
+#include "base/Argument.h"
+#include "base/TextOutput.h"
+#include "date/DateText.h"
+#include "date/LocaleDatePattern.h"
+#include "message/FormatElement.h"
+#include "msglib/ChoiceFormat.h"
+#include "msglib/SimpleDateFormat.h"
+#include "number/LocaleNumberFormat.h"
+
 #include <cstddef>
-#include <cstring>
+#include <cstdint>
+#include <memory>
+#include <string>
 
 namespace zem::msglib {
 
 namespace {
 
-// With a length that the compiler knows, this is a comparison or two of words.
-template <std::size_t Size>
-bool is(std::string_view text, const char (&keyword)[Size]) noexcept {
-    return text.size() == Size - 1 && std::memcmp(text.data(), keyword, Size - 1) == 0;
+// A text of four to eight bytes, as all keywords are, in two words that may overlap: two of them
+// compare in a few instructions. Longer and shorter texts equal no keyword but the empty one.
+class Keyword {
+public:
+    constexpr explicit Keyword(std::string_view text) noexcept : size_(text.size()) {
+        if (text.size() >= 4 && text.size() <= 8) {
+            front_ = wordAt(text, 0);
+            back_ = wordAt(text, text.size() - 4);
+        }
+    }
+
+    constexpr bool operator==(const Keyword& other) const noexcept {
+        return front_ == other.front_ && back_ == other.back_ && size_ == other.size_;
+    }
+
+private:
+    static constexpr std::uint32_t wordAt(std::string_view text, std::size_t position) noexcept {
+        const auto byte = [&](std::size_t offset) -> std::uint32_t {
+            return static_cast<unsigned char>(text[position + offset]);
+        };
+        return byte(0) | byte(1) << 8 | byte(2) << 16 | byte(3) << 24;
+    }
+
+    std::uint32_t front_ = 0;
+    std::uint32_t back_ = 0;
+    std::size_t size_;
+};
+
+// Numbers.
+
+template <NumberFormat::FormatType type>
+void buildNumber(FormatElement& element, const std::locale& locale) {
+    element.format_ = LocaleNumberFormat::makeShared(locale, type);
 }
 
-PlaceholderStyle numberStyle(std::string_view style) noexcept {
-    if (style.empty()) {
-        return PlaceholderStyle::Number;
-    }
-    if (is(style, "integer")) {
-        return PlaceholderStyle::Integer;
-    }
-    if (is(style, "currency")) {
-        return PlaceholderStyle::Currency;
-    }
-    return is(style, "percent") ? PlaceholderStyle::Percent : PlaceholderStyle::CustomNumber;
+template <NumberFormat::FormatType type>
+void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
+    LocaleNumberFormat::append(type, argument, out);
 }
 
-PlaceholderStyle dateStyle(std::string_view style) noexcept {
-    if (is(style, "short")) {
-        return PlaceholderStyle::ShortDate;
-    }
-    if (style.empty() || is(style, "medium")) {
-        return PlaceholderStyle::MediumDate;
-    }
-    const bool isLong = is(style, "long") || is(style, "full");
-    return isLong ? PlaceholderStyle::LongDate : PlaceholderStyle::CustomDate;
+void buildRounded(FormatElement& element, const std::locale& locale) {
+    element.format_ = LocaleNumberFormat::makeSharedRounded(locale);
 }
+
+void appendRounded(std::string_view, const boost::any& argument, TextOutput& out) {
+    LocaleNumberFormat::appendRounded(argument, out);
+}
+
+// A pattern that fails leaves the formatter as far as it was compiled.
+void buildCustomNumber(FormatElement& element, const std::locale& locale) {
+    const auto number = LocaleNumberFormat::makeShared(locale, NumberFormat::Number);
+    element.format_ = number;
+    number->applyPattern(element.style_);
+}
+
+void appendCustomNumber(std::string_view style, const boost::any& argument, TextOutput& out) {
+    LocaleNumberFormat::append(style, argument, out);
+}
+
+// Dates and times.
+
+void buildDate(FormatElement& element, std::string pattern, const std::locale& locale) {
+    element.format_ = std::make_shared<SimpleDateFormat>(std::move(pattern), locale);
+}
+
+template <DateFormat::Style style>
+void buildLocaleDate(FormatElement& element, const std::locale& locale) {
+    buildDate(element, std::string(LocaleDatePattern(style).text()), locale);
+}
+
+template <DateFormat::Style style>
+void appendLocaleDate(std::string_view, const boost::any& argument, TextOutput& out) {
+    appendDate(LocaleDatePattern(style).text(), argument, out);
+}
+
+void buildTime(FormatElement& element, const std::locale& locale) {
+    buildDate(element, std::string(LocaleDatePattern::time().text()), locale);
+}
+
+void appendTime(std::string_view, const boost::any& argument, TextOutput& out) {
+    appendDate(LocaleDatePattern::time().text(), argument, out);
+}
+
+void buildCustomDate(FormatElement& element, const std::locale& locale) {
+    buildDate(element, element.style_, locale);
+}
+
+// Choices.
+
+void buildChoice(FormatElement& element, const std::locale&) {
+    if (element.style_.empty()) {
+        raise(Failure::ChoiceStyleMissing);
+    }
+    element.format_ = std::make_shared<ChoiceFormat>(element.style_);
+}
+
+// Other types.
+
+void appendWithoutType(std::string_view, const boost::any& argument, TextOutput& out) {
+    appendByKind(argument, out);
+}
+
+struct Row {
+    constexpr Row(std::string_view typeWord, std::string_view styleWord,
+                  PlaceholderStyle asked) noexcept
+        : type(typeWord),
+          style(styleWord),
+          formatter(asked) {}
+
+    Keyword type;
+    Keyword style;
+    PlaceholderStyle formatter;
+};
+
+// Stands for any style; the row comes after the keywords of its type.
+constexpr std::string_view custom = "*";
+
+constexpr PlaceholderStyle mediumDate = {buildLocaleDate<DateFormat::Medium>,
+                                         appendLocaleDate<DateFormat::Medium>};
+constexpr PlaceholderStyle longDate = {buildLocaleDate<DateFormat::Long>,
+                                       appendLocaleDate<DateFormat::Long>};
+constexpr PlaceholderStyle customDate = {buildCustomDate, appendDate};
+
+constexpr Row rows[] = {
+    {"number", "", {buildNumber<NumberFormat::Number>, appendNumber<NumberFormat::Number>}},
+    {"number", "integer", {buildRounded, appendRounded}},
+    {"number",
+     "currency",
+     {buildNumber<NumberFormat::Currency>, appendNumber<NumberFormat::Currency>}},
+    {"number",
+     "percent",
+     {buildNumber<NumberFormat::Percent>, appendNumber<NumberFormat::Percent>}},
+    {"number", custom, {buildCustomNumber, appendCustomNumber}},
+    {"choice", custom, {buildChoice, nullptr}},
+    {"date", "", mediumDate},
+    {"date", "short", {buildLocaleDate<DateFormat::Short>, appendLocaleDate<DateFormat::Short>}},
+    {"date", "medium", mediumDate},
+    {"date", "long", longDate},
+    {"date", "full", longDate},
+    {"date", custom, customDate},
+    {"time", "", {buildTime, appendTime}},
+    {"time", custom, customDate},
+};
+
+constexpr PlaceholderStyle withoutType = {nullptr, appendWithoutType};
 
 } // namespace
 
-PlaceholderStyle placeholderStyle(std::string_view type, std::string_view style) noexcept {
-    if (is(type, "number")) {
-        return numberStyle(style);
+const PlaceholderStyle& PlaceholderStyle::of(std::string_view type,
+                                             std::string_view style) noexcept {
+    const Keyword wantedType(type);
+    const Keyword wantedStyle(style);
+    for (const Row& row : rows) {
+        if (row.type == wantedType && (row.style == wantedStyle || row.style == Keyword(custom))) {
+            return row.formatter;
+        }
     }
-    if (is(type, "date")) {
-        return dateStyle(style);
+    return withoutType;
+}
+
+void appendByKind(const boost::any& argument, TextOutput& out) {
+    switch (kindOf(argument)) {
+    case ArgumentKind::Text: out.append(heldValue<std::string>(argument)); return;
+    case ArgumentKind::Float:
+    case ArgumentKind::Double:
+        LocaleNumberFormat::append(NumberFormat::Number, argument, out);
+        return;
+    case ArgumentKind::Angle:
+    case ArgumentKind::Other: return;
+    default: LocaleNumberFormat::append(NumberFormat::Integer, argument, out);
     }
-    if (is(type, "time")) {
-        return style.empty() ? PlaceholderStyle::Time : PlaceholderStyle::CustomDate;
-    }
-    return is(type, "choice") ? PlaceholderStyle::Choice : PlaceholderStyle::ByKind;
 }
 
 } // namespace zem::msglib

@@ -31,14 +31,18 @@ std::string& ChoiceFormat::format(long value, std::string& out) const {
 }
 
 std::string& ChoiceFormat::format(double value, std::string& out) const {
+    return out += choose(value);
+}
+
+std::string_view ChoiceFormat::choose(double value) const noexcept {
     ChoiceSearch search(value);
-    const std::string* chosen = nullptr;
+    std::string_view chosen;
     for (const ChoiceEntry& entry : choices_) {
         if (search.takes(entry.limit)) {
-            chosen = &entry.text;
+            chosen = entry.text;
         }
     }
-    return chosen == nullptr ? out : out += *chosen;
+    return chosen;
 }
 
 double ChoiceFormat::nextDouble(double value) {

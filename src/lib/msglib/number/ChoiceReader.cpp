@@ -22,7 +22,7 @@ double ChoiceReader::readLimit() {
         ++position_;
     }
     if (position_ >= pattern_.size()) {
-        raise(Failure::ChoiceSyntax);
+        raise(Failure::ChoiceSyntax, begin);
     }
     const double limit = extractDouble(pattern_.substr(begin, position_ - begin));
     return pattern_[position_++] == '#' ? limit : ChoiceFormat::nextDouble(limit);
@@ -40,13 +40,13 @@ bool ChoiceSearch::takes(double limit) noexcept {
     return true;
 }
 
-JoinedPieces chooseText(std::string_view pattern, double value) {
-    ChoiceReader reader(pattern);
+ScannedText chooseText(std::string_view pattern, double value, const BraceIndex* braces) {
+    ChoiceReader reader(pattern, braces);
     ChoiceSearch search(value);
-    JoinedPieces chosen;
+    ScannedText chosen;
     for (bool more = true; more;) {
         if (search.takes(reader.readLimit())) {
-            chosen = JoinedPieces();
+            chosen = ScannedText();
             more = reader.readText(chosen);
         } else {
             more = reader.readText([](std::string_view) {});

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/BraceIndex.h"
+#include "base/ScannedText.h"
 #include "base/Scanning.h"
 
 #include <cstddef>
@@ -10,21 +12,30 @@ namespace zem::msglib {
 /// Reads a choice pattern entry by entry: a limit, then its text. It borrows the pattern.
 class ChoiceReader {
 public:
-    explicit ChoiceReader(std::string_view pattern) noexcept : pattern_(pattern) {}
+    /// @param braces  where the braces of `pattern` close, if that is known
+    explicit ChoiceReader(std::string_view pattern, const BraceIndex* braces = nullptr) noexcept
+        : pattern_(pattern),
+          braces_(braces) {}
 
-    /// Reads the least value of the next entry.
+    /// Returns the position of the next byte to read, at most one beyond the size of the pattern.
+    std::size_t position() const noexcept { return position_; }
+
+    /// Reads the least value of the next entry, and passes the separator after it.
     ///
-    /// @throws std::runtime_error "Syntax error in choice format." if no separator follows
+    /// @throws PatternFailure "Syntax error in choice format." if no separator follows; its
+    ///         position is where the entry begins
     double readLimit();
 
-    /// Reads the text behind a limit, with its quoting resolved, piece by piece into `sink`.
+    /// Reads the text after a limit, with its quoting resolved, and passes what ends it.
     ///
+    /// @param sink  called with each piece of the text, a part of the pattern
     /// @return whether another entry follows
     template <class Sink>
     bool readText(Sink&& sink);
 
 private:
     std::string_view pattern_;
+    const BraceIndex* braces_;
     std::size_t position_ = 0;
 };
 
@@ -33,7 +44,7 @@ class ChoiceSearch {
 public:
     explicit ChoiceSearch(double value) noexcept : value_(value) {}
 
-    /// Tells whether the next entry, from `limit` on, takes the place of the one before.
+    /// Returns whether the next entry, from `limit` on, takes the place of the one before.
     bool takes(double limit) noexcept;
 
 private:
@@ -43,16 +54,17 @@ private:
     bool settled_ = false;
 };
 
-/// Returns the text that a `ChoiceFormat` of `pattern` chooses for `value`; it may lie in
-/// `pattern`.
+/// Returns the text that a `ChoiceFormat` of `pattern` chooses for `value`. All of `pattern` is
+/// read, so that a wrong one fails whatever the value is.
 ///
-/// @throws std::runtime_error "Syntax error in choice format."
-JoinedPieces chooseText(std::string_view pattern, double value);
+/// @param braces  where the braces of `pattern` close, if that is known
+/// @throws PatternFailure "Syntax error in choice format."
+ScannedText chooseText(std::string_view pattern, double value, const BraceIndex* braces);
 
 template <class Sink>
 bool ChoiceReader::readText(Sink&& sink) {
     std::size_t depth = 1;
-    std::size_t taken = position_; // what stands in front of it needs no more care
+    std::size_t taken = position_; // everything before it needs no more care
     while ((position_ = findSyntax(pattern_, position_, '|')) < pattern_.size()) {
         const char c = pattern_[position_];
         if (c == quote && holdsAt(pattern_, position_ + 1, quote)) {
@@ -64,6 +76,10 @@ bool ChoiceReader::readText(Sink&& sink) {
             sink(pattern_.substr(taken, position_ - taken));
             sink(pattern_.substr(position_ + 1, 1));
             taken = position_ += 3;
+            continue;
+        }
+        if (c == '{' && braces_ != nullptr) {
+            position_ = braces_->endOf(pattern_, position_);
             continue;
         }
         if (c == '{') {

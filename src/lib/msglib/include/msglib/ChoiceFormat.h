@@ -4,6 +4,7 @@
 
 #include <list>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
 
@@ -67,10 +68,14 @@ public:
     static double nextDouble(double value, bool positive);
 
 private:
+    friend class MessageRenderer;
+
     struct ChoiceEntry {
         double limit;
         std::string text;
     };
+
+    std::string_view choose(double value) const noexcept;
 
     std::list<ChoiceEntry> choices_;
 };

@@ -103,17 +103,10 @@ public:
     const std::locale& getLocale() const { return locale_; }
 
 private:
-    friend class MessageRenderer;
-
     MessageFormat();
 
-    void compile(const std::string& pattern);
     std::size_t parseStatic(const std::string& pattern, std::size_t position,
                             std::string& text) const;
-    std::size_t parsePatternElement(const std::string& pattern, std::size_t position,
-                                    std::string& text, char endByte) const;
-    std::size_t parseIndex(const std::string& pattern, std::size_t position, std::string& scratch,
-                           int& index) const;
     std::size_t parsePattern(const std::string& pattern, std::size_t position, std::string& scratch,
                              const std::locale& locale);
 

@@ -54,10 +54,9 @@ public:
 
 private:
     friend class MessageRenderer;
-    friend class PlaceholderRenderer;
+    friend void appendDate(std::string_view pattern, const boost::any& value, TextOutput& out);
 
     void write(const boost::any& value, TextOutput& out) const;
-    static void render(std::string_view pattern, const boost::any& value, TextOutput& out);
 
     static const std::string_view datePatternChars_;
     static const std::string_view timePatternChars_;

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -37,7 +35,7 @@ public:
             appendBeyond(text);
             return;
         }
-        copy(text, end_);
+        std::char_traits<char>::copy(end_, text.data(), text.size());
         end_ += text.size();
     }
 
@@ -71,32 +69,6 @@ private:
         return static_cast<std::size_t>(gathered_ + largestRoom - end_);
     }
     void appendBeyond(std::string_view text);
-
-    // Short texts are copied as two words that may overlap.
-    static void copy(std::string_view text, char* to) noexcept {
-        if (text.size() > 2 * sizeof(std::uint64_t)) {
-            std::memcpy(to, text.data(), text.size());
-        } else if (text.size() >= sizeof(std::uint64_t)) {
-            copyEnds<std::uint64_t>(text, to);
-        } else if (text.size() >= sizeof(std::uint32_t)) {
-            copyEnds<std::uint32_t>(text, to);
-        } else if (text.size() >= sizeof(std::uint16_t)) {
-            copyEnds<std::uint16_t>(text, to);
-        } else if (!text.empty()) {
-            *to = text.front();
-        }
-    }
-
-    template <class Word>
-    static void copyEnds(std::string_view text, char* to) noexcept {
-        const std::size_t last = text.size() - sizeof(Word);
-        Word front = 0;
-        Word back = 0;
-        std::memcpy(&front, text.data(), sizeof front);
-        std::memcpy(&back, text.data() + last, sizeof back);
-        std::memcpy(to, &front, sizeof front);
-        std::memcpy(to + last, &back, sizeof back);
-    }
 
     std::string& out_;
     char* end_ = gathered_;

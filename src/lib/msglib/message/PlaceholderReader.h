@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/BraceIndex.h"
+#include "base/Extraction.h"
 #include "base/Failure.h"
 #include "base/ScannedText.h"
 #include "base/Scanning.h"
@@ -118,6 +119,18 @@ bool PlaceholderReader::readText(Sink&& sink) {
             position_ += holdsAt(pattern_, position_ + 1, quote) ? 2 : 1;
         }
     }
+}
+
+// Plain digits, by far the most frequent index, are read where they stand.
+inline int PlaceholderReader::readIndex() {
+    int index = 0;
+    const std::size_t begin = position_ + 1;
+    const std::size_t end = begin + readDigits(pattern_, begin, index);
+    if (end == begin || !(holdsAt(pattern_, end, '}') || holdsAt(pattern_, end, ','))) {
+        return extractIndex();
+    }
+    position_ = end;
+    return index;
 }
 
 inline bool PlaceholderReader::skipEnd() noexcept {

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <new>
 #include <stdexcept>
 
 namespace zem::msglib {
@@ -89,8 +90,29 @@ MessageLibrary::MessageLibrary()
 
 MessageLibrary::~MessageLibrary() = default;
 
+// The one library outlives all static objects, so that their destructors may render: it goes with
+// the module that it lies in, when the program ends or unloads that. In a static library on Windows
+// there is no such late moment, and the system takes the memory back.
+struct MessageLibrary::Singleton {
+    alignas(MessageLibrary) static unsigned char storage[sizeof(MessageLibrary)];
+    static MessageLibrary* library; // null until it is made
+
+    static MessageLibrary& make() { return *(library = new (storage) MessageLibrary); }
+
+#if !defined(_WIN32) || !defined(MSGLIB_STATIC)
+    [[gnu::destructor]] static void destroy() {
+        if (library != nullptr) {
+            library->~MessageLibrary();
+        }
+    }
+#endif
+};
+
+unsigned char MessageLibrary::Singleton::storage[];
+MessageLibrary* MessageLibrary::Singleton::library = nullptr;
+
 MessageLibrary& MessageLibrary::instance() {
-    static MessageLibrary library;
+    static MessageLibrary& library = Singleton::make();
     return library;
 }
 

@@ -14,6 +14,10 @@ ChoiceFormat::ChoiceFormat(const std::string& pattern) {
     applyPattern(pattern);
 }
 
+ChoiceFormat::ChoiceFormat(const ChoiceFormat& other) = default;
+
+ChoiceFormat& ChoiceFormat::operator=(const ChoiceFormat& other) = default;
+
 ChoiceFormat::~ChoiceFormat() = default;
 
 void ChoiceFormat::applyPattern(const std::string& pattern) {

@@ -33,8 +33,8 @@ public:
     /// @throws std::runtime_error as `applyPattern` does
     ChoiceFormat(const std::string& pattern);
 
-    ChoiceFormat(const ChoiceFormat&) = default;
-    ChoiceFormat& operator=(const ChoiceFormat&) = default;
+    ChoiceFormat(const ChoiceFormat& other);
+    ChoiceFormat& operator=(const ChoiceFormat& other);
     ~ChoiceFormat() override;
 
     /// Compiles `pattern` in place of the present one.

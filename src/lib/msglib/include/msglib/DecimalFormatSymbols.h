@@ -20,11 +20,11 @@ public:
     /// own symbol at the starting value that its getter names.
     DecimalFormatSymbols(const std::locale& locale = std::locale());
 
-    DecimalFormatSymbols(const DecimalFormatSymbols&) = default;
-    DecimalFormatSymbols(DecimalFormatSymbols&&) = default;
-    DecimalFormatSymbols& operator=(const DecimalFormatSymbols&) = default;
-    DecimalFormatSymbols& operator=(DecimalFormatSymbols&&) = default;
-    ~DecimalFormatSymbols() = default;
+    DecimalFormatSymbols(const DecimalFormatSymbols& other);
+    DecimalFormatSymbols(DecimalFormatSymbols&& other) noexcept;
+    DecimalFormatSymbols& operator=(const DecimalFormatSymbols& other);
+    DecimalFormatSymbols& operator=(DecimalFormatSymbols&& other) noexcept;
+    ~DecimalFormatSymbols();
 
     /// The local currency symbol; starts as "$".
     std::string getCurrencySymbol() const { return currencySymbol_; }

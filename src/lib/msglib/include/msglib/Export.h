@@ -1,5 +1,9 @@
 #pragma once
 
+#if !defined(__GXX_RTTI) && !defined(_CPPRTTI)
+#error "msglib needs run-time type information: arguments are told apart by it. Leave out -fno-rtti."
+#endif
+
 /// Marks what the library makes public; every other symbol stays inside it.
 ///
 /// `MSGLIB_STATIC` is defined for users of the static library and `MSGLIB_BUILDING` while the

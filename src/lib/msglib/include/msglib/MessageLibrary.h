@@ -33,6 +33,10 @@ public:
 
     /// Returns the one message library, as `MessageLibrary::instance()` does.
     static IMessageLibrary& instance();
+
+protected:
+    // Nobody destroys the library through its interface.
+    ~IMessageLibrary() = default;
 };
 
 /// Finds messages by identifier in the tables of the registered modules, and renders them.
@@ -71,6 +75,8 @@ public:
     std::string formatMessage(unsigned int messageId, const std::list<boost::any>& args) const;
 
 private:
+    struct Singleton;
+
     MessageLibrary();
     ~MessageLibrary();
 

@@ -32,8 +32,8 @@ public:
     /// The same with a pattern that the caller gives away.
     SimpleDateFormat(std::string&& pattern, const std::locale& locale);
 
-    SimpleDateFormat(const SimpleDateFormat&) = default;
-    SimpleDateFormat& operator=(const SimpleDateFormat&) = default;
+    SimpleDateFormat(const SimpleDateFormat& other);
+    SimpleDateFormat& operator=(const SimpleDateFormat& other);
     ~SimpleDateFormat() override;
 
     /// Replaces the pattern.

@@ -63,16 +63,17 @@ std::string MessageFormatStream::toString() const {
 }
 
 MessageFormatStream& MessageFormatStream::append(const MessageFormatStream& other) {
-    if (this == &other) {
-        toString();
-        return *this;
+    // Whatever fails comes before the first change. A stream joined to itself keeps its message.
+    std::list<boost::any> args;
+    if (this != &other) {
+        args = other.impl_->args_;
     }
-    // Whatever fails comes before the first change.
-    std::list<boost::any> args(other.impl_->args_);
     impl_->text_ += impl_->rendered();
-    impl_->messageId_ = other.impl_->messageId_;
-    impl_->pattern_ = other.impl_->pattern_;
-    impl_->args_ = std::move(args);
+    if (this != &other) {
+        impl_->messageId_ = other.impl_->messageId_;
+        impl_->pattern_ = other.impl_->pattern_;
+        impl_->args_ = std::move(args);
+    }
     return *this;
 }
 

@@ -6,9 +6,7 @@
 
 #include <boost/container/small_vector.hpp>
 
-#include <algorithm>
 #include <cstring>
-#include <limits>
 #include <new>
 #include <stdexcept>
 
@@ -45,22 +43,24 @@ TableText fetchText(platform::HMODULE module, unsigned int messageId) {
     return text;
 }
 
-using Utf8Text = boost::container::small_vector<char, 1024>;
+constexpr std::size_t shortText = 1024;
+using Utf8Text = boost::container::small_vector<char, shortText>;
 
-// Converts in one pass, into room for the most bytes that the units can make.
+// Converts a text that surely becomes a short one in one pass, and measures any other first.
 Utf8Text toUtf8(const TableText& text) {
     constexpr std::size_t mostBytesPerUnit = 3;
-    constexpr std::size_t mostBytes = std::numeric_limits<int>::max();
-    const std::size_t room =
-        std::min(static_cast<std::size_t>(text.count) * mostBytesPerUnit, mostBytes);
-    Utf8Text bytes(room, boost::container::default_init);
-    const int length =
-        platform::WideCharToMultiByte(platform::CP_UTF8, 0, text.units.get(), text.count,
-                                      bytes.data(), static_cast<int>(room), nullptr, nullptr);
-    if (length == 0) {
-        raise(Failure::UnconvertibleMessage);
-    }
-    bytes.resize(static_cast<std::size_t>(length));
+    const auto convert = [&text](char* bytes, std::size_t size) {
+        const int length =
+            platform::WideCharToMultiByte(platform::CP_UTF8, 0, text.units.get(), text.count, bytes,
+                                          static_cast<int>(size), nullptr, nullptr);
+        if (length == 0) {
+            raise(Failure::UnconvertibleMessage);
+        }
+        return static_cast<std::size_t>(length);
+    };
+    const bool isShort = static_cast<std::size_t>(text.count) <= shortText / mostBytesPerUnit;
+    Utf8Text bytes(isShort ? shortText : convert(nullptr, 0), boost::container::default_init);
+    bytes.resize(convert(bytes.data(), bytes.size()));
     return bytes;
 }
 

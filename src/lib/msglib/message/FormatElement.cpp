@@ -4,8 +4,9 @@
 #include "date/LocaleDatePattern.h"
 #include "message/PlaceholderStyle.h"
 #include "msglib/ChoiceFormat.h"
+#include "msglib/DecimalFormat.h"
 #include "msglib/SimpleDateFormat.h"
-#include "number/LocaleNumberFormat.h"
+#include "number/LocaleNumber.h"
 
 #include <utility>
 
@@ -21,20 +22,30 @@ std::shared_ptr<Format> makeDateFormat(DateFormat::Style style, const std::local
     return makeDateFormat(std::string(LocaleDatePattern(style).text()), locale);
 }
 
+std::shared_ptr<DecimalFormat> makeNumberFormat(NumberFormat::FormatType type,
+                                                const std::locale& locale) {
+    return std::make_shared<DecimalFormat>(LocaleNumber(type).pattern(),
+                                           DecimalFormatSymbols(locale));
+}
+
+std::shared_ptr<DecimalFormat> makeRoundedFormat(const std::locale& locale) {
+    auto number = makeNumberFormat(NumberFormat::Number, locale);
+    number->setMaximumFractionDigits(0);
+    return number;
+}
+
 } // namespace
 
 void FormatElement::buildFormat(const std::locale& locale) {
     switch (placeholderStyle(type_, style_)) {
     case PlaceholderStyle::ByKind: return;
-    case PlaceholderStyle::Number:
-        format_ = LocaleNumberFormat::makeShared(locale, NumberFormat::Number);
-        return;
-    case PlaceholderStyle::Integer: format_ = LocaleNumberFormat::makeSharedRounded(locale); return;
+    case PlaceholderStyle::Number: format_ = makeNumberFormat(NumberFormat::Number, locale); return;
+    case PlaceholderStyle::Integer: format_ = makeRoundedFormat(locale); return;
     case PlaceholderStyle::Currency:
-        format_ = LocaleNumberFormat::makeShared(locale, NumberFormat::Currency);
+        format_ = makeNumberFormat(NumberFormat::Currency, locale);
         return;
     case PlaceholderStyle::Percent:
-        format_ = LocaleNumberFormat::makeShared(locale, NumberFormat::Percent);
+        format_ = makeNumberFormat(NumberFormat::Percent, locale);
         return;
     case PlaceholderStyle::CustomNumber: buildCustomNumber(locale); return;
     case PlaceholderStyle::ShortDate: format_ = makeDateFormat(DateFormat::Short, locale); return;
@@ -50,7 +61,7 @@ void FormatElement::buildFormat(const std::locale& locale) {
 
 // A pattern that fails leaves the formatter as far as it was compiled.
 void FormatElement::buildCustomNumber(const std::locale& locale) {
-    const auto number = LocaleNumberFormat::makeShared(locale, NumberFormat::Number);
+    const auto number = makeNumberFormat(NumberFormat::Number, locale);
     format_ = number;
     number->applyPattern(style_);
 }

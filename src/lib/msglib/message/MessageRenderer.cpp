@@ -7,6 +7,8 @@
 #include "msglib/DecimalFormat.h"
 #include "msglib/MessageFormat.h"
 #include "msglib/SimpleDateFormat.h"
+#include "number/DecimalForm.h"
+#include "number/NumberArgument.h"
 
 #include <typeinfo>
 #include <utility>
@@ -50,7 +52,8 @@ void MessageRenderer::renderElement(const FormatElement& element) {
         expandChoice(element, argument);
         return;
     } else if (is<DecimalFormat>(*format)) {
-        static_cast<const DecimalFormat*>(format)->write(argument, out_);
+        const DecimalForm form(*static_cast<const DecimalFormat*>(format));
+        form.appendDouble(readNumber(argument), out_);
     } else {
         static_cast<const SimpleDateFormat*>(format)->write(argument, out_);
     }

@@ -3,38 +3,55 @@
 #include "base/Argument.h"
 #include "base/TextOutput.h"
 #include "date/LocaleDatePattern.h"
+#include "msglib/DecimalFormat.h"
 #include "msglib/SimpleDateFormat.h"
-#include "number/LocaleNumberFormat.h"
+#include "number/DecimalForm.h"
+#include "number/LocaleNumber.h"
+#include "number/NumberArgument.h"
+
+#include <locale>
+#include <string>
 
 namespace zem::msglib {
+
+namespace {
+
+void appendNumber(NumberFormat::FormatType type, const boost::any& argument, TextOutput& out) {
+    LocaleNumber(type).append(readNumber(argument), out);
+}
+
+// The classic locale needs no lock, and none has a part in the text.
+void appendCustomNumber(std::string_view pattern, const boost::any& argument, TextOutput& out) {
+    const DecimalFormat format(std::string(pattern), DecimalFormatSymbols(std::locale::classic()));
+    DecimalForm(format).appendDouble(readNumber(argument), out);
+}
+
+} // namespace
 
 void PlaceholderRenderer::appendByKind(const boost::any& argument, TextOutput& out) {
     switch (kindOf(argument)) {
     case ArgumentKind::Text: out.append(heldValue<std::string>(argument)); return;
     case ArgumentKind::Float:
-    case ArgumentKind::Double:
-        LocaleNumberFormat::append(NumberFormat::Number, argument, out);
-        return;
+    case ArgumentKind::Double: appendNumber(NumberFormat::Number, argument, out); return;
     case ArgumentKind::Angle:
     case ArgumentKind::Other: return;
-    default: LocaleNumberFormat::append(NumberFormat::Integer, argument, out);
+    default: appendNumber(NumberFormat::Integer, argument, out);
     }
 }
 
 void PlaceholderRenderer::appendByStyle(PlaceholderStyle placeholder, std::string_view style,
                                         const boost::any& argument, TextOutput& out) {
-    const auto appendNumber = [&](NumberFormat::FormatType type) {
-        LocaleNumberFormat::append(type, argument, out);
-    };
     const auto appendDate = [&](const LocaleDatePattern& pattern) {
         SimpleDateFormat::render(pattern.text(), argument, out);
     };
     switch (placeholder) {
-    case PlaceholderStyle::Number: appendNumber(NumberFormat::Number); return;
-    case PlaceholderStyle::Integer: LocaleNumberFormat::appendRounded(argument, out); return;
-    case PlaceholderStyle::Currency: appendNumber(NumberFormat::Currency); return;
-    case PlaceholderStyle::Percent: appendNumber(NumberFormat::Percent); return;
-    case PlaceholderStyle::CustomNumber: LocaleNumberFormat::append(style, argument, out); return;
+    case PlaceholderStyle::Number: appendNumber(NumberFormat::Number, argument, out); return;
+    case PlaceholderStyle::Integer:
+        LocaleNumber::rounded().append(readNumber(argument), out);
+        return;
+    case PlaceholderStyle::Currency: appendNumber(NumberFormat::Currency, argument, out); return;
+    case PlaceholderStyle::Percent: appendNumber(NumberFormat::Percent, argument, out); return;
+    case PlaceholderStyle::CustomNumber: appendCustomNumber(style, argument, out); return;
     case PlaceholderStyle::ShortDate: appendDate(LocaleDatePattern(DateFormat::Short)); return;
     case PlaceholderStyle::MediumDate: appendDate(LocaleDatePattern(DateFormat::Medium)); return;
     case PlaceholderStyle::LongDate: appendDate(LocaleDatePattern(DateFormat::Long)); return;

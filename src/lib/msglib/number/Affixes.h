@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+namespace zem::msglib {
+
+/// The texts before and after the digits of a number.
+struct Affixes {
+    std::string_view prefix;
+    std::string_view suffix;
+};
+
+} // namespace zem::msglib

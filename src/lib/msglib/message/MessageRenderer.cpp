@@ -8,7 +8,6 @@
 #include "msglib/MessageFormat.h"
 #include "msglib/SimpleDateFormat.h"
 #include "number/DecimalForm.h"
-#include "number/NumberArgument.h"
 
 #include <typeinfo>
 #include <utility>
@@ -52,8 +51,7 @@ void MessageRenderer::renderElement(const FormatElement& element) {
         expandChoice(element, argument);
         return;
     } else if (is<DecimalFormat>(*format)) {
-        const DecimalForm form(*static_cast<const DecimalFormat*>(format));
-        form.appendDouble(readNumber(argument), out_);
+        DecimalForm(*static_cast<const DecimalFormat*>(format)).appendArgument(argument, out_);
     } else {
         static_cast<const SimpleDateFormat*>(format)->write(argument, out_);
     }

@@ -7,7 +7,6 @@
 #include "msglib/SimpleDateFormat.h"
 #include "number/DecimalForm.h"
 #include "number/LocaleNumber.h"
-#include "number/NumberArgument.h"
 
 #include <locale>
 #include <string>
@@ -17,13 +16,13 @@ namespace zem::msglib {
 namespace {
 
 void appendNumber(NumberFormat::FormatType type, const boost::any& argument, TextOutput& out) {
-    LocaleNumber(type).append(readNumber(argument), out);
+    LocaleNumber(type).appendArgument(argument, out);
 }
 
 // The classic locale needs no lock, and none has a part in the text.
 void appendCustomNumber(std::string_view pattern, const boost::any& argument, TextOutput& out) {
     const DecimalFormat format(std::string(pattern), DecimalFormatSymbols(std::locale::classic()));
-    DecimalForm(format).appendDouble(readNumber(argument), out);
+    DecimalForm(format).appendArgument(argument, out);
 }
 
 } // namespace
@@ -46,9 +45,7 @@ void PlaceholderRenderer::appendByStyle(PlaceholderStyle placeholder, std::strin
     };
     switch (placeholder) {
     case PlaceholderStyle::Number: appendNumber(NumberFormat::Number, argument, out); return;
-    case PlaceholderStyle::Integer:
-        LocaleNumber::rounded().append(readNumber(argument), out);
-        return;
+    case PlaceholderStyle::Integer: LocaleNumber::rounded().appendArgument(argument, out); return;
     case PlaceholderStyle::Currency: appendNumber(NumberFormat::Currency, argument, out); return;
     case PlaceholderStyle::Percent: appendNumber(NumberFormat::Percent, argument, out); return;
     case PlaceholderStyle::CustomNumber: appendCustomNumber(style, argument, out); return;

@@ -8,6 +8,8 @@ namespace zem::msglib {
 struct Affixes {
     std::string_view prefix;
     std::string_view suffix;
+
+    bool areEmpty() const noexcept { return prefix.empty() && suffix.empty(); }
 };
 
 } // namespace zem::msglib

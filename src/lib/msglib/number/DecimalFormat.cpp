@@ -42,8 +42,7 @@ DecimalFormat::DecimalFormat(const std::string& pattern, DecimalFormatSymbols&& 
 DecimalFormat::~DecimalFormat() = default;
 
 std::string& DecimalFormat::format(double value, std::string& out) const {
-    return TextOutput::to(out,
-                          [&](TextOutput& text) { DecimalForm(*this).appendDouble(value, text); });
+    return TextOutput::to(out, [&](TextOutput& text) { DecimalForm(*this).append(value, text); });
 }
 
 std::string& DecimalFormat::format(long value, std::string& out) const {

@@ -2,6 +2,7 @@
 
 #include "base/LocaleValue.h"
 #include "base/TextOutput.h"
+#include "number/NumberArgument.h"
 #include "number/NumberWriter.h"
 
 #include <cstdint>
@@ -31,12 +32,6 @@ constexpr Affixes negativeCurrencies[] = {
 template <std::size_t Size>
 Affixes affixesAt(const Affixes (&table)[Size], std::size_t number) noexcept {
     return number < Size ? table[number] : Affixes();
-}
-
-bool hasCurrencySign(const Affixes& affixes) noexcept {
-    constexpr auto nowhere = std::string_view::npos;
-    return affixes.prefix.find(currencySign) != nowhere ||
-           affixes.suffix.find(currencySign) != nowhere;
 }
 
 constexpr bool isDigit(char c) noexcept {
@@ -83,15 +78,7 @@ private:
 // The form for the writer of numbers, with the symbols between the digits.
 class LocaleNumber::Form {
 public:
-    explicit Form(const LocaleNumber& number) noexcept
-        : number_(number),
-          zero_(platform::LOCALE_SNATIVEDIGITS, "0"),
-          grouping_(number.isMonetary() ? platform::LOCALE_SMONTHOUSANDSEP
-                                        : platform::LOCALE_STHOUSAND,
-                    ","),
-          decimal_(number.isMonetary() ? platform::LOCALE_SMONDECIMALSEP
-                                       : platform::LOCALE_SDECIMAL,
-                   ".") {}
+    explicit Form(const LocaleNumber& number) noexcept : Form(number, number.isMonetary()) {}
 
     Affixes positiveAffixes() const noexcept { return number_.affixes_; }
     Affixes negativeAffixes() const noexcept { return number_.negativeAffixes(); }
@@ -101,10 +88,10 @@ public:
         return affix.empty() || (isSymbol && currencySymbol().text().empty());
     }
 
-    static void append(std::string_view affix, TextOutput& out) {
+    static void appendAffix(std::string_view affix, TextOutput& out) {
         for (const char byte : affix) {
             if (byte == currencySign) {
-                out.append(currencySymbol().text());
+                appendCurrencySymbol(out);
             } else {
                 out.append(byte);
             }
@@ -122,8 +109,8 @@ public:
     }
 
     // No locale has exponents.
-    static int scale(double&) noexcept { return 0; }
-    static void appendExponent(int, TextOutput&) noexcept {}
+    static ScaledNumber scale(double x) noexcept { return {x, 0}; }
+    static void appendExponent(long long, TextOutput&) noexcept {}
 
     DigitLayout digitLayout() const noexcept {
         constexpr std::size_t mostIntegerDigits = 309;
@@ -141,7 +128,15 @@ public:
     static std::string_view infinity() noexcept { return "1.#INF"; }
 
 private:
+    Form(const LocaleNumber& number, bool monetary) noexcept
+        : number_(number),
+          zero_(platform::LOCALE_SNATIVEDIGITS, "0"),
+          grouping_(monetary ? platform::LOCALE_SMONTHOUSANDSEP : platform::LOCALE_STHOUSAND, ","),
+          decimal_(monetary ? platform::LOCALE_SMONDECIMALSEP : platform::LOCALE_SDECIMAL, ".") {}
+
     static LocaleSymbol currencySymbol() noexcept { return {platform::LOCALE_SCURRENCY, "$"}; }
+
+    static void appendCurrencySymbol(TextOutput& out) { out.append(currencySymbol().text()); }
 
     const LocaleNumber& number_;
     LocaleSymbol zero_;
@@ -211,9 +206,10 @@ bool LocaleNumber::hasDigitMarks() const noexcept {
     return groupSize_ > 0 || hasLeadingZero_ || maximumFractionDigits_ > 0;
 }
 
+// All affixes of amounts have the currency sign, but for the "$" that is fallen back to.
 bool LocaleNumber::isMonetary() const noexcept {
-    return type_ == NumberFormat::Currency &&
-           (hasCurrencySign(affixes_) || hasCurrencySign(negativeAffixes()));
+    return isKnown_ && type_ == NumberFormat::Currency &&
+           (!affixes_.areEmpty() || !negativeAffixes().areEmpty());
 }
 
 Affixes LocaleNumber::negativeAffixes() const noexcept {
@@ -231,33 +227,30 @@ Affixes LocaleNumber::negativeAffixes() const noexcept {
 
 std::string LocaleNumber::pattern() const {
     std::string text(affixes_.prefix);
-    text.append(digitMarks()).append(affixes_.suffix);
+    if (groupSize_ > 0) {
+        text.append("#,").append(groupSize_ - (hasLeadingZero_ ? 1 : 0), '#');
+    }
+    if (hasLeadingZero_) {
+        text += '0';
+    }
+    if (maximumFractionDigits_ > 0) {
+        text += '.';
+        text.append(minimumFractionDigits_, '0');
+        text.append(maximumFractionDigits_ - minimumFractionDigits_, '#');
+    }
+    text += affixes_.suffix;
     const Affixes negative = negativeAffixes();
-    if (!negative.prefix.empty() || !negative.suffix.empty()) {
-        text.append(";").append(negative.prefix).append("#").append(negative.suffix);
+    if (!negative.areEmpty()) {
+        text += ';';
+        text += negative.prefix;
+        text += '#';
+        text += negative.suffix;
     }
     return text;
 }
 
-std::string LocaleNumber::digitMarks() const {
-    std::string marks;
-    if (groupSize_ > 0) {
-        marks.append("#,").append(groupSize_, '#');
-    }
-    if (hasLeadingZero_ && !marks.empty()) {
-        marks.back() = '0';
-    } else if (hasLeadingZero_) {
-        marks.push_back('0');
-    }
-    if (maximumFractionDigits_ > 0) {
-        marks.append(1, '.').append(minimumFractionDigits_, '0');
-        marks.append(maximumFractionDigits_ - minimumFractionDigits_, '#');
-    }
-    return marks;
-}
-
-void LocaleNumber::append(double value, TextOutput& out) const {
-    appendNumber(value, Form(*this), out);
+void LocaleNumber::appendArgument(const boost::any& argument, TextOutput& out) const {
+    appendNumber(readNumber(argument), Form(*this), out);
 }
 
 } // namespace zem::msglib

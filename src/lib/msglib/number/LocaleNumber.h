@@ -3,6 +3,8 @@
 #include "msglib/NumberFormat.h"
 #include "number/Affixes.h"
 
+#include <boost/any.hpp>
+
 #include <cstddef>
 #include <string>
 
@@ -30,8 +32,10 @@ public:
     /// Returns the pattern for `DecimalFormat`: "#,##0.00;-#".
     std::string pattern() const;
 
-    /// Appends a number as the factory's formatter would.
-    void append(double value, TextOutput& out) const;
+    /// Appends an argument of any numeric kind as the factory's formatter would.
+    ///
+    /// @throws what `readNumber` throws
+    void appendArgument(const boost::any& argument, TextOutput& out) const;
 
 private:
     class Form;
@@ -42,7 +46,6 @@ private:
     bool hasDigitMarks() const noexcept;
     bool isMonetary() const noexcept;
     Affixes negativeAffixes() const noexcept;
-    std::string digitMarks() const;
 
     NumberFormat::FormatType type_;
     bool isKnown_;

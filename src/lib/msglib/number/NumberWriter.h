@@ -14,7 +14,7 @@
 ///
 ///     positiveAffixes(), negativeAffixes()  the affixes; an empty negative one falls back to its
 ///                                           positive twin
-///     isEmpty(affix), append(affix, out)    what an affix comes to
+///     isEmpty(affix), appendAffix(affix)   what an affix comes to
 ///     appendMinusSign(out)                  the sign of numbers without negative affixes
 ///     multiplier(), rounding()              what the magnitude is multiplied with, and what is
 ///                                           added to it then
@@ -24,9 +24,15 @@
 /// A form is passed by reference: copies of its buffers cost more than all the rest.
 namespace zem::msglib {
 
-/// Appends what comes before the digits, and returns the suffix for `form.append` after them.
-template <class Form>
-std::string_view appendPrefix(bool negative, const Form& form, TextOutput& out) {
+/// A number divided by 10 to the power `exponent`.
+struct ScaledNumber {
+    double number;
+    long long exponent;
+};
+
+/// Appends sign and affixes, and what `appendDigits()` appends between them.
+template <class Form, class AppendDigits>
+void appendSigned(bool negative, const Form& form, TextOutput& out, AppendDigits appendDigits) {
     Affixes affixes = form.positiveAffixes();
     if (negative) {
         const Affixes own = form.negativeAffixes();
@@ -38,23 +44,23 @@ std::string_view appendPrefix(bool negative, const Form& form, TextOutput& out) 
         affixes = {hasPrefix ? own.prefix : affixes.prefix,
                    hasSuffix ? own.suffix : affixes.suffix};
     }
-    form.append(affixes.prefix, out);
-    return affixes.suffix;
+    form.appendAffix(affixes.prefix, out);
+    appendDigits();
+    form.appendAffix(affixes.suffix, out);
 }
 
 /// Appends a number without its sign.
 template <class Form>
 void appendMagnitude(double magnitude, const Form& form, TextOutput& out) {
-    double x = magnitude * form.multiplier();
-    const auto exponent = form.scale(x);
+    const ScaledNumber scaled = form.scale(magnitude * form.multiplier());
     // The only rounding there is. All further digits are cut off.
-    x += form.rounding();
+    const double x = scaled.number + form.rounding();
     if (x == std::numeric_limits<double>::infinity()) {
         out.append(form.infinity());
         return;
     }
     appendDigits(x, form.digitLayout(), out);
-    form.appendExponent(exponent, out);
+    form.appendExponent(scaled.exponent, out);
 }
 
 /// Appends any number.
@@ -65,9 +71,8 @@ void appendNumber(double value, const Form& form, TextOutput& out) {
         return;
     }
     const bool negative = value < 0.0;
-    const std::string_view suffix = appendPrefix(negative, form, out);
-    appendMagnitude(negative ? -value : value, form, out);
-    form.append(suffix, out);
+    appendSigned(negative, form, out,
+                 [&] { appendMagnitude(negative ? -value : value, form, out); });
 }
 
 } // namespace zem::msglib

@@ -21,7 +21,7 @@ void appendNumber(NumberFormat::FormatType type, const boost::any& argument, Tex
 
 // The classic locale needs no lock, and none has a part in the text.
 void appendCustomNumber(std::string_view pattern, const boost::any& argument, TextOutput& out) {
-    const DecimalFormat format(std::string(pattern), DecimalFormatSymbols(std::locale::classic()));
+    const DecimalFormat format(std::string{pattern}, DecimalFormatSymbols(std::locale::classic()));
     DecimalForm(format).appendArgument(argument, out);
 }
 

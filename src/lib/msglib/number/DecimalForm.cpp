@@ -27,16 +27,16 @@ double dividedByPower(double x, long long exponent) {
 } // namespace
 
 void DecimalForm::append(double value, TextOutput& out) const {
-    appendNumber(value, *this, out);
+    writeNumber(value, *this, out);
 }
 
 void DecimalForm::appendArgument(const boost::any& argument, TextOutput& out) const {
-    appendNumber(readNumber(argument), *this, out);
+    writeNumber(readNumber(argument), *this, out);
 }
 
 void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
     const bool negative = value < 0;
-    appendSigned(negative, *this, out, [&] {
+    writeSigned(negative, *this, out, [&] {
         appendDigits(static_cast<std::uint64_t>(negative ? -value : value), digitLayout(), out);
     });
 }

@@ -29,6 +29,8 @@ Field countAs(std::size_t marks) {
 
 } // namespace
 
+const std::string_view DecimalFormat::patternChars_ = ".,#0E;%\xA4";
+
 DecimalFormat::DecimalFormat(const std::string& pattern, const DecimalFormatSymbols& symbols)
     : symbols_(symbols) {
     applyPattern(pattern);

@@ -250,7 +250,7 @@ std::string LocaleNumber::pattern() const {
 }
 
 void LocaleNumber::appendArgument(const boost::any& argument, TextOutput& out) const {
-    appendNumber(readNumber(argument), Form(*this), out);
+    writeNumber(readNumber(argument), Form(*this), out);
 }
 
 } // namespace zem::msglib

@@ -12,16 +12,17 @@
 ///
 /// How a number looks comes from a *form*, which answers these questions:
 ///
-///     positiveAffixes(), negativeAffixes()  the affixes; an empty negative one falls back to its
-///                                           positive twin
-///     isEmpty(affix), appendAffix(affix)   what an affix comes to
-///     appendMinusSign(out)                  the sign of numbers without negative affixes
-///     multiplier(), rounding()              what the magnitude is multiplied with, and what is
-///                                           added to it then
-///     scale(x), appendExponent(exponent)    exponential notation; both do nothing without it
-///     digitLayout(), naN(), infinity()      the digits, and the texts for numbers without any
+///     positiveAffixes(), negativeAffixes()     an empty negative affix falls back to its positive
+///                                              twin
+///     isEmpty(affix), appendAffix(affix, out)  what an affix comes to
+///     appendMinusSign(out)                     the sign of numbers without negative affixes
+///     multiplier(), rounding()                 what the magnitude is multiplied with, and what is
+///                                              added to it after that
+///     scale(x), appendExponent(exponent, out)  exponential notation; without it, neither changes
+///                                              anything
+///     digitLayout(), infinity(), naN()         the digits, and the texts of numbers without digits
 ///
-/// A form is passed by reference: copies of its buffers cost more than all the rest.
+/// A form is passed by reference: copying its buffers would cost more than all the rest.
 namespace zem::msglib {
 
 /// A number divided by 10 to the power `exponent`.
@@ -32,7 +33,7 @@ struct ScaledNumber {
 
 /// Appends sign and affixes, and what `appendDigits()` appends between them.
 template <class Form, class AppendDigits>
-void appendSigned(bool negative, const Form& form, TextOutput& out, AppendDigits appendDigits) {
+void writeSigned(bool negative, const Form& form, TextOutput& out, AppendDigits appendDigits) {
     Affixes affixes = form.positiveAffixes();
     if (negative) {
         const Affixes own = form.negativeAffixes();
@@ -51,7 +52,7 @@ void appendSigned(bool negative, const Form& form, TextOutput& out, AppendDigits
 
 /// Appends a number without its sign.
 template <class Form>
-void appendMagnitude(double magnitude, const Form& form, TextOutput& out) {
+void writeMagnitude(double magnitude, const Form& form, TextOutput& out) {
     const ScaledNumber scaled = form.scale(magnitude * form.multiplier());
     // The only rounding there is. All further digits are cut off.
     const double x = scaled.number + form.rounding();
@@ -65,14 +66,13 @@ void appendMagnitude(double magnitude, const Form& form, TextOutput& out) {
 
 /// Appends any number.
 template <class Form>
-void appendNumber(double value, const Form& form, TextOutput& out) {
+void writeNumber(double value, const Form& form, TextOutput& out) {
     if (std::isnan(value)) {
         out.append(form.naN());
         return;
     }
     const bool negative = value < 0.0;
-    appendSigned(negative, form, out,
-                 [&] { appendMagnitude(negative ? -value : value, form, out); });
+    writeSigned(negative, form, out, [&] { writeMagnitude(negative ? -value : value, form, out); });
 }
 
 } // namespace zem::msglib

@@ -91,7 +91,7 @@ private:
     std::size_t parseExponent(const std::string& pattern, std::size_t pos, bool negative);
     void reset();
 
-    static constexpr std::string_view patternChars_ = ".,#0E;%\xA4";
+    static const std::string_view patternChars_;
 
     DecimalFormatSymbols symbols_;
     std::string negativePrefix_;

@@ -1,10 +1,12 @@
 #include "base/TextOutput.h"
-#include "number/LocaleNumberFormat.h"
+#include "msglib/DecimalFormat.h"
+#include "number/LocaleNumber.h"
 #include "platform/LocaleServices.h"
 #include "support/FakeLocale.h"
 #include "support/Rendering.h"
 
 #include <cmath>
+#include <limits>
 #include <memory>
 
 namespace zem::msglib {
@@ -106,6 +108,12 @@ const Factory integer = NumberFormat::getIntegerInstance;
 const Factory currency = NumberFormat::getCurrencyInstance;
 const Factory percent = NumberFormat::getPercentInstance;
 
+// What a placeholder writes that makes no formatter.
+std::string textAtOnce(const LocaleNumber& form, double value) {
+    std::string text;
+    return TextOutput::to(text, [&](TextOutput& out) { form.appendArgument(value, out); });
+}
+
 // The form of what the factory makes. A placeholder has to write its numbers alike.
 std::string formOf(Factory factory) {
     const std::locale locale;
@@ -116,14 +124,11 @@ std::string formOf(Factory factory) {
                       : factory == integer  ? NumberFormat::Integer
                       : factory == currency ? NumberFormat::Currency
                                             : NumberFormat::Percent;
-    for (const double value :
-         {0.0, 0.5, 4.005, 1234567.891, 1e23, 1e307, -1234.5, HUGE_VAL, std::nan("")}) {
-        std::string text = "kept";
-        TextOutput::to(text, [&](auto& out) { LocaleNumberFormat::append(type, value, out); });
-        EXPECT_EQ(text, "kept" + textOf(*format, value)) << value;
-        text = "kept";
-        TextOutput::to(text, [&](auto& out) { LocaleNumberFormat::appendRounded(value, out); });
-        EXPECT_EQ(text, "kept" + textOf(*rounded, value)) << value;
+    const double largest = std::numeric_limits<double>::max();
+    for (const double value : {0.0, -0.0, 0.5, -0.004, 4.005, 1234567.891, 1e23, largest, -1234.5,
+                               HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+        EXPECT_EQ(textAtOnce(LocaleNumber(type), value), textOf(*format, value)) << value;
+        EXPECT_EQ(textAtOnce(LocaleNumber::rounded(), value), textOf(*rounded, value)) << value;
     }
     return dump(*format);
 }
@@ -153,6 +158,8 @@ TEST(LocalePatterns, FollowTheLocaleValues) {
         {__LINE__, currency, "3", "1", "0", "2", "9", "1.0-0, | kr 0 | kr 1,234,568 | -kr 1,235"},
         {__LINE__, currency, "3", "1", "0", "3", "8", "1.0-0, | 0 kr | 1,234,568 kr | -1,235 kr"},
         {__LINE__, currency, "2", "1", "0", "7", "16", "1.0-0, | 0 | 1,23,45,68 | -12,35"},
+        {__LINE__, currency, "0", "0", "0", "1", "5", "0.0-0 | kr | kr1234568 | -1235kr"},
+        {__LINE__, currency, "0", "0", "0", "3", "16", "0.0-0 |  kr |  kr1234568 | - kr1235"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
@@ -211,9 +218,46 @@ TEST(LocalePatterns, WithoutLocaleValues) {
     }
     const FakeLocale other(otherSymbols);
     EXPECT_EQ(formOf(number), "1.2-2, | A,AA | B.CDE.FGH,IJ | -B.CDE,FA");
-    const auto unknown = static_cast<NumberFormat::FormatType>(4);
-    EXPECT_EQ(dump(LocaleNumberFormat::make(std::locale(), unknown, "0.0")),
-              "0.0-0 |  | BCDEFGI | ~BCDF");
+}
+
+// An explicit instantiation may name what is private.
+template <class Operation, Operation Private>
+struct Access {
+    friend Operation privateOperation(Operation) { return Private; }
+};
+using CreateInstance = NumberFormat* (*)(const std::locale&, NumberFormat::FormatType, const char*);
+CreateInstance privateOperation(CreateInstance);
+template struct Access<CreateInstance, &NumberFormat::createInstance>;
+
+TEST(LocalePatterns, OfTypesThatAreNone) {
+    const FakeLocale locale(otherSymbols);
+    const auto none = static_cast<NumberFormat::FormatType>(4);
+    const auto create = privateOperation(CreateInstance());
+    const std::unique_ptr<NumberFormat> format(create(std::locale(), none, "0.0"));
+    EXPECT_EQ(dump(*format), "0.0-0 |  | BCDEFGI | ~BCDF");
+}
+
+TEST(LocalePatterns, Texts) {
+    using Type = NumberFormat::FormatType;
+    const struct {
+        int line;
+        Type type;
+        LocaleValues values;
+        const char* pattern;
+    } rows[] = {
+        {__LINE__, Type::Number, {}, "#,##0.00;-#"},
+        {__LINE__, Type::Integer, {}, "#,##0;-#"},
+        {__LINE__, Type::Percent, {}, "#,##0.00%;-#%"},
+        {__LINE__, Type::Currency, {}, "\xA4#,##0.00;(\xA4#)"},
+        {__LINE__, Type::Number, {{LOCALE_ILZERO, "0"}}, "#,###.00;-#"},
+        {__LINE__, Type::Number, {{LOCALE_SGROUPING, "1"}, {LOCALE_INEGNUMBER, "5"}}, "#,0.00"},
+        {__LINE__, Type::Integer, {{LOCALE_SGROUPING, "0"}, {LOCALE_ILZERO, "0"}}, ";-#"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        const FakeLocale locale(row.values);
+        EXPECT_EQ(LocaleNumber(row.type).pattern(), row.pattern);
+    }
 }
 
 } // namespace

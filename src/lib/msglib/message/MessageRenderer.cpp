@@ -7,6 +7,7 @@
 #include "msglib/MessageFormat.h"
 #include "msglib/SimpleDateFormat.h"
 #include "number/ChoiceReader.h"
+#include "number/DecimalForm.h"
 #include "number/NumberArgument.h"
 
 #include <algorithm>
@@ -143,7 +144,7 @@ void MessageRenderer::render(const FormatElement& element) {
     } else if (is<ChoiceFormat>(*format)) {
         render(static_cast<const ChoiceFormat*>(format)->choose(readNumber(argument)));
     } else if (is<DecimalFormat>(*format)) {
-        static_cast<const DecimalFormat*>(format)->write(argument, out_);
+        DecimalForm(*static_cast<const DecimalFormat*>(format)).appendArgument(argument, out_);
     } else {
         static_cast<const SimpleDateFormat*>(format)->write(argument, out_);
     }

@@ -6,8 +6,10 @@
 #include "date/LocaleDatePattern.h"
 #include "message/FormatElement.h"
 #include "msglib/ChoiceFormat.h"
+#include "msglib/DecimalFormat.h"
 #include "msglib/SimpleDateFormat.h"
-#include "number/LocaleNumberFormat.h"
+#include "number/DecimalForm.h"
+#include "number/LocaleNumber.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -48,33 +50,43 @@ private:
 
 // Numbers.
 
+std::shared_ptr<DecimalFormat> makeNumber(NumberFormat::FormatType type,
+                                          const std::locale& locale) {
+    return std::make_shared<DecimalFormat>(LocaleNumber(type).pattern(),
+                                           DecimalFormatSymbols(locale));
+}
+
 template <NumberFormat::FormatType type>
 void buildNumber(FormatElement& element, const std::locale& locale) {
-    element.format_ = LocaleNumberFormat::makeShared(locale, type);
+    element.format_ = makeNumber(type, locale);
 }
 
 template <NumberFormat::FormatType type>
 void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
-    LocaleNumberFormat::append(type, argument, out);
+    LocaleNumber(type).appendArgument(argument, out);
 }
 
 void buildRounded(FormatElement& element, const std::locale& locale) {
-    element.format_ = LocaleNumberFormat::makeSharedRounded(locale);
+    const auto number = makeNumber(NumberFormat::Number, locale);
+    number->setMaximumFractionDigits(0);
+    element.format_ = number;
 }
 
 void appendRounded(std::string_view, const boost::any& argument, TextOutput& out) {
-    LocaleNumberFormat::appendRounded(argument, out);
+    LocaleNumber::rounded().appendArgument(argument, out);
 }
 
 // A pattern that fails leaves the formatter as far as it was compiled.
 void buildCustomNumber(FormatElement& element, const std::locale& locale) {
-    const auto number = LocaleNumberFormat::makeShared(locale, NumberFormat::Number);
+    const auto number = makeNumber(NumberFormat::Number, locale);
     element.format_ = number;
     number->applyPattern(element.style_);
 }
 
+// The classic locale needs no lock, and none has a part in the text.
 void appendCustomNumber(std::string_view style, const boost::any& argument, TextOutput& out) {
-    LocaleNumberFormat::append(style, argument, out);
+    const DecimalFormat format(std::string(style), DecimalFormatSymbols(std::locale::classic()));
+    DecimalForm(format).appendArgument(argument, out);
 }
 
 // Dates and times.
@@ -182,12 +194,10 @@ void appendByKind(const boost::any& argument, TextOutput& out) {
     switch (kindOf(argument)) {
     case ArgumentKind::Text: out.append(heldValue<std::string>(argument)); return;
     case ArgumentKind::Float:
-    case ArgumentKind::Double:
-        LocaleNumberFormat::append(NumberFormat::Number, argument, out);
-        return;
+    case ArgumentKind::Double: appendNumber<NumberFormat::Number>({}, argument, out); return;
     case ArgumentKind::Angle:
     case ArgumentKind::Other: return;
-    default: LocaleNumberFormat::append(NumberFormat::Integer, argument, out);
+    default: appendNumber<NumberFormat::Integer>({}, argument, out);
     }
 }
 

@@ -1,138 +1,232 @@
 #include "msglib/DecimalFormat.h"
 
 #include "base/Argument.h"
+#include "base/Failure.h"
+#include "base/Scanning.h"
 #include "base/TextOutput.h"
-#include "number/DigitWriter.h"
-#include "number/NumberArgument.h"
-#include "number/PowersOfTen.h"
+#include "number/DecimalForm.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdint>
 #include <limits>
+#include <string_view>
+#include <utility>
+
+// A scanner over bytes turns a pattern into the fields. What the fields come to in the text of a
+// number is in `DecimalForm`.
 
 namespace zem::msglib {
 
 namespace {
 
-std::size_t countOf(int digits) noexcept {
-    return static_cast<std::size_t>(std::max(digits, 0));
+constexpr char currencySign = '\xA4';
+
+// A count of marks as the field that keeps it; more than fit count as the most that do.
+template <class Field>
+Field countAs(std::size_t marks) {
+    return static_cast<Field>(
+        std::min(marks, static_cast<std::size_t>(std::numeric_limits<Field>::max())));
 }
 
 } // namespace
 
+const std::string_view DecimalFormat::patternChars_ = ".,#0E;%\xA4";
+
+DecimalFormat::DecimalFormat(const std::string& pattern, const DecimalFormatSymbols& symbols)
+    : symbols_(symbols) {
+    applyPattern(pattern);
+}
+
+DecimalFormat::DecimalFormat(const std::string& pattern, DecimalFormatSymbols&& symbols)
+    : symbols_(std::move(symbols)) {
+    applyPattern(pattern);
+}
+
+DecimalFormat::DecimalFormat(const DecimalFormat& other) = default;
+
+DecimalFormat& DecimalFormat::operator=(const DecimalFormat& other) = default;
+
+DecimalFormat::~DecimalFormat() = default;
+
 std::string& DecimalFormat::format(double value, std::string& out) const {
-    return TextOutput::to(out, [&](TextOutput& text) { write(value, text); });
+    return TextOutput::to(out, [&](TextOutput& text) { DecimalForm(*this).append(value, text); });
 }
 
 std::string& DecimalFormat::format(long value, std::string& out) const {
-    const std::int64_t number = checkedLong(value);
+    const long number = checkedLong(value);
     if (useExponentialNotation_) {
-        return format(static_cast<double>(value), out);
+        return format(static_cast<double>(number), out);
     }
-    const bool negative = number < 0;
-    const auto magnitude = static_cast<std::uint64_t>(negative ? -number : number);
-    return TextOutput::to(out, [&](TextOutput& text) {
-        appendPrefix(negative, text);
-        appendDigits(magnitude, digitLayout(), text);
-        appendSuffix(negative, text);
-    });
+    return TextOutput::to(out,
+                          [&](TextOutput& text) { DecimalForm(*this).appendWhole(number, text); });
 }
 
-void DecimalFormat::write(const boost::any& value, TextOutput& out) const {
-    write(readNumber(value), out);
-}
-
-void DecimalFormat::write(double value, TextOutput& out) const {
-    if (std::isnan(value)) {
-        out.append(symbols_.naN_);
+void DecimalFormat::applyPattern(const std::string& pattern) {
+    reset();
+    std::size_t pos = parseAffix(pattern, 0, positivePrefix_, false);
+    pos = parsePattern(pattern, pos, false);
+    pos = parseAffix(pattern, pos, positiveSuffix_, true);
+    if (pos == pattern.size()) {
         return;
     }
-    const bool negative = value < 0.0;
-    appendPrefix(negative, out);
-    appendMagnitude(negative ? -value : value, out);
-    appendSuffix(negative, out);
-}
-
-DigitLayout DecimalFormat::digitLayout() const noexcept {
-    const bool grouped = groupingUsed_ && groupingSize_ > 0;
-    return {countOf(maximumIntegerDigits_),
-            countOf(minimumIntegerDigits_),
-            countOf(maximumFractionDigits_),
-            countOf(minimumFractionDigits_),
-            grouped ? static_cast<std::size_t>(groupingSize_) : 0,
-            monetary_ ? symbols_.monetaryGroupingSeparator_ : symbols_.groupingSeparator_,
-            monetary_ ? symbols_.monetaryDecimalSeparator_ : symbols_.decimalSeparator_,
-            symbols_.zeroDigit_};
-}
-
-void DecimalFormat::appendPrefix(bool negative, TextOutput& out) const {
-    if (negative && !negativePrefix_.empty()) {
-        out.append(negativePrefix_);
-        return;
+    if (pattern[pos] != ';') {
+        raise(Failure::SeparatorExpected, pos);
     }
-    if (negative && negativeSuffix_.empty()) {
-        out.append(symbols_.minusSign_);
-    }
-    if (!positivePrefix_.empty()) {
-        out.append(positivePrefix_);
+    pos = parseAffix(pattern, pos + 1, negativePrefix_, false);
+    pos = parsePattern(pattern, pos, true);
+    pos = parseAffix(pattern, pos, negativeSuffix_, true);
+    if (pos != pattern.size()) {
+        raise(Failure::EndOfPatternExpected, pos);
     }
 }
 
-void DecimalFormat::appendSuffix(bool negative, TextOutput& out) const {
-    const std::string& suffix =
-        negative && !negativeSuffix_.empty() ? negativeSuffix_ : positiveSuffix_;
-    if (!suffix.empty()) {
-        out.append(suffix);
-    }
+void DecimalFormat::reset() {
+    positivePrefix_.clear();
+    positiveSuffix_.clear();
+    negativePrefix_.clear();
+    negativeSuffix_.clear();
+    multiplier_ = 1;
+    groupingSize_ = 0;
+    minimumExponentDigits_ = 0;
+    groupingUsed_ = false;
+    maximumFractionDigits_ = 0;
+    minimumFractionDigits_ = 0;
+    maximumIntegerDigits_ = 309;
+    minimumIntegerDigits_ = 1;
+    useExponentialNotation_ = false;
+    monetary_ = false;
 }
 
-void DecimalFormat::appendMagnitude(double magnitude, TextOutput& out) const {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
-    double x = magnitude * multiplier_;
-    const bool scaled = useExponentialNotation_ && x > 0.0 && x < infinity;
-    const long long exponent = scaled ? scaleToExponent(x) : 0;
-    // The only rounding there is. All digits are cut off behind it.
-    x += roundingOf(maximumFractionDigits_);
-    if (x == infinity) {
-        out.append(symbols_.infinity_);
-        return;
-    }
-    appendDigits(x, digitLayout(), out);
-    if (useExponentialNotation_) {
-        appendExponent(exponent, out);
-    }
+// An affix that fails leaves the field as it was.
+std::size_t DecimalFormat::parseAffix(const std::string& pattern, std::size_t pos,
+                                      std::string& affix, bool suffix) {
+    std::string text;
+    pos = parseStatic(pattern, pos, text, suffix);
+    affix = std::move(text);
+    return pos;
 }
 
-// Divides a positive x by the power of ten that brings as many digits as the pattern asks for in
-// front of the point.
-long long DecimalFormat::scaleToExponent(double& x) const {
-    auto exponent = static_cast<long long>(std::floor(std::log(x) / std::log(10.0)));
-    if (minimumIntegerDigits_ > 0) {
-        exponent += 1 - static_cast<long long>(minimumIntegerDigits_);
+std::size_t DecimalFormat::parseStatic(const std::string& pattern, std::size_t pos,
+                                       std::string& text, bool suffix) {
+    text.clear();
+    bool percentSeen = false;
+    while (pos < pattern.size()) {
+        const char c = pattern[pos];
+        if (c == quote && holdsAt(pattern, pos + 1, quote)) {
+            text.push_back(quote);
+            pos += 2;
+        } else if (c == quote && holdsAt(pattern, pos + 2, quote)) {
+            text.push_back(pattern[pos + 1]);
+            pos += 3;
+        } else if (c == currencySign && holdsAt(pattern, pos + 1, currencySign)) {
+            text.append(symbols_.internationalCurrencySymbol_);
+            monetary_ = true;
+            pos += 2;
+        } else if (c == currencySign) {
+            text.append(symbols_.currencySymbol_);
+            monetary_ = true;
+            ++pos;
+        } else if (suffix && c == '%') {
+            if (percentSeen) {
+                raise(Failure::MultiplierAlreadySet, pos);
+            }
+            percentSeen = true;
+            multiplier_ = 100;
+            text.push_back(c);
+            ++pos;
+        } else if (patternChars_.find(c) != std::string_view::npos) {
+            return pos;
+        } else {
+            text.push_back(c);
+            ++pos;
+        }
     }
-    const double power = powerOfTen(static_cast<double>(exponent));
-    if (power > 0.0) {
-        x /= power;
-    } else {
-        // No double holds this power, so the smallest numbers get there in two steps.
-        constexpr int step = 300;
-        x = x * 1e300 / powerOfTen(static_cast<double>(exponent + step));
-    }
-    return exponent;
+    return pos;
 }
 
-void DecimalFormat::appendExponent(long long exponent, TextOutput& out) const {
-    out.append(symbols_.exponential_);
-    if (exponent < 0) {
-        out.append(symbols_.minusSign_);
-        exponent = -exponent;
+std::size_t DecimalFormat::parsePattern(const std::string& pattern, std::size_t pos,
+                                        bool negative) {
+    pos = parseInteger(pattern, pos, negative);
+    if (holdsAt(pattern, pos, '.')) {
+        pos = parseFraction(pattern, pos + 1, negative);
     }
-    DigitLayout layout{};
-    layout.maximumIntegerDigits = std::numeric_limits<std::size_t>::max();
-    layout.minimumIntegerDigits = countOf(minimumExponentDigits_);
-    layout.zeroDigit = symbols_.zeroDigit_;
-    appendDigits(static_cast<std::uint64_t>(exponent), layout, out);
+    if (holdsAt(pattern, pos, 'E')) {
+        pos = parseExponent(pattern, pos + 1, negative);
+    }
+    return pos;
+}
+
+std::size_t DecimalFormat::parseInteger(const std::string& pattern, std::size_t pos,
+                                        bool negative) {
+    std::size_t marks = 0;
+    std::size_t zeros = 0;
+    bool comma = false;
+    for (; pos < pattern.size(); ++pos) {
+        const char c = pattern[pos];
+        if (c == '#') {
+            if (zeros > 0) {
+                raise(Failure::DigitMarkAfterZero, pos);
+            }
+            ++marks;
+        } else if (c == '0') {
+            ++zeros;
+            ++marks;
+        } else if (c == ',') {
+            marks = 0;
+            comma = true;
+        } else {
+            break;
+        }
+    }
+    if (!negative) {
+        groupingSize_ = countAs<short>(marks);
+        minimumIntegerDigits_ = countAs<int>(zeros);
+        groupingUsed_ = comma;
+    }
+    return pos;
+}
+
+std::size_t DecimalFormat::parseFraction(const std::string& pattern, std::size_t pos,
+                                         bool negative) {
+    std::size_t hashes = 0;
+    std::size_t zeros = 0;
+    for (; pos < pattern.size(); ++pos) {
+        const char c = pattern[pos];
+        if (c == '0') {
+            if (hashes > 0) {
+                raise(Failure::ZeroMarkAfterDigit, pos);
+            }
+            ++zeros;
+        } else if (c == '#') {
+            ++hashes;
+        } else {
+            break;
+        }
+    }
+    if (!negative) {
+        minimumFractionDigits_ = countAs<int>(zeros);
+        maximumFractionDigits_ = countAs<int>(zeros + hashes);
+    }
+    return pos;
+}
+
+std::size_t DecimalFormat::parseExponent(const std::string& pattern, std::size_t pos,
+                                         bool negative) {
+    std::size_t zeros = 0;
+    for (; pos < pattern.size(); ++pos) {
+        const char c = pattern[pos];
+        if (c == '0') {
+            ++zeros;
+        } else if (c != '#') {
+            break;
+        } else if (zeros > 0) {
+            raise(Failure::DigitMarkAfterZeroInExponent, pos);
+        }
+    }
+    if (!negative) {
+        useExponentialNotation_ = true;
+        minimumExponentDigits_ = countAs<short>(zeros);
+    }
+    return pos;
 }
 
 } // namespace zem::msglib

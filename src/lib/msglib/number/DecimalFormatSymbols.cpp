@@ -32,8 +32,7 @@ DecimalFormatSymbols::DecimalFormatSymbols(const DecimalFormatSymbols& other) = 
 
 DecimalFormatSymbols::DecimalFormatSymbols(DecimalFormatSymbols&& other) noexcept = default;
 
-DecimalFormatSymbols&
-DecimalFormatSymbols::operator=(const DecimalFormatSymbols& other) = default;
+DecimalFormatSymbols& DecimalFormatSymbols::operator=(const DecimalFormatSymbols& other) = default;
 
 DecimalFormatSymbols&
 DecimalFormatSymbols::operator=(DecimalFormatSymbols&& other) noexcept = default;

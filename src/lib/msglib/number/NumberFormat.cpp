@@ -1,10 +1,20 @@
 #include "msglib/NumberFormat.h"
 
 #include "msglib/DecimalFormat.h"
-#include "number/LocaleNumberFormat.h"
+#include "msglib/DecimalFormatSymbols.h"
+#include "number/LocaleNumber.h"
 #include "number/NumberArgument.h"
 
 namespace zem::msglib {
+
+namespace {
+
+std::string localePattern(NumberFormat::FormatType type, const char* fallback) {
+    const LocaleNumber number(type);
+    return number.isKnown() ? number.pattern() : fallback;
+}
+
+} // namespace
 
 NumberFormat::~NumberFormat() = default;
 
@@ -13,24 +23,47 @@ std::string& NumberFormat::format(const boost::any& value, std::string& out) con
 }
 
 NumberFormat* NumberFormat::getNumberInstance(const std::locale& locale) {
-    return createInstance(locale, Number, LocaleNumberFormat::fallbackOf(Number));
+    return createInstance(locale, Number, "#,##0.###");
 }
 
 NumberFormat* NumberFormat::getIntegerInstance(const std::locale& locale) {
-    return createInstance(locale, Integer, LocaleNumberFormat::fallbackOf(Integer));
+    return createInstance(locale, Integer, "#,##0.###");
 }
 
 NumberFormat* NumberFormat::getCurrencyInstance(const std::locale& locale) {
-    return createInstance(locale, Currency, LocaleNumberFormat::fallbackOf(Currency));
+    return createInstance(locale, Currency, "$#,##0.00;($#,##0.00)");
 }
 
 NumberFormat* NumberFormat::getPercentInstance(const std::locale& locale) {
-    return createInstance(locale, Percent, LocaleNumberFormat::fallbackOf(Percent));
+    return createInstance(locale, Percent, "#,##0%");
 }
 
 NumberFormat* NumberFormat::createInstance(const std::locale& locale, FormatType type,
                                            const char* fallback) {
-    return new DecimalFormat(LocaleNumberFormat::make(locale, type, fallback));
+    std::string pattern;
+    switch (type) {
+    case Number: pattern = getNumberFormat(locale, fallback); break;
+    case Integer: pattern = getIntegerFormat(locale, fallback); break;
+    case Currency: pattern = getCurrencyFormat(locale, fallback); break;
+    case Percent: pattern = getPercentFormat(locale, fallback); break;
+    }
+    return new DecimalFormat(pattern, DecimalFormatSymbols(locale));
+}
+
+std::string NumberFormat::getNumberFormat(const std::locale&, const char* fallback) {
+    return localePattern(Number, fallback);
+}
+
+std::string NumberFormat::getIntegerFormat(const std::locale&, const char* fallback) {
+    return localePattern(Integer, fallback);
+}
+
+std::string NumberFormat::getCurrencyFormat(const std::locale&, const char* fallback) {
+    return localePattern(Currency, fallback);
+}
+
+std::string NumberFormat::getPercentFormat(const std::locale&, const char* fallback) {
+    return localePattern(Percent, fallback);
 }
 
 void NumberFormat::setGroupingUsed(bool value) {

@@ -5,11 +5,9 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
-
-class TextOutput;
-struct DigitLayout;
 
 /// Writes numbers by a pattern such as "#,##0.00;(#,##0.00)".
 ///
@@ -39,8 +37,8 @@ public:
     /// The same with symbols that the caller gives away.
     DecimalFormat(const std::string& pattern, DecimalFormatSymbols&& symbols);
 
-    DecimalFormat(const DecimalFormat&) = default;
-    DecimalFormat& operator=(const DecimalFormat&) = default;
+    DecimalFormat(const DecimalFormat& other);
+    DecimalFormat& operator=(const DecimalFormat& other);
     ~DecimalFormat() override;
 
     /// Compiles `pattern` over the present state. Only the symbols stay, even from the setters
@@ -81,8 +79,7 @@ public:
     std::string& format(double value, std::string& out) const override;
 
 private:
-    friend class LocaleNumberFormat;
-    friend class MessageRenderer;
+    friend class DecimalForm;
 
     std::size_t parseAffix(const std::string& pattern, std::size_t pos, std::string& affix,
                            bool suffix);
@@ -94,16 +91,7 @@ private:
     std::size_t parseExponent(const std::string& pattern, std::size_t pos, bool negative);
     void reset();
 
-    DigitLayout digitLayout() const noexcept;
-    void write(const boost::any& value, TextOutput& out) const;
-    void write(double value, TextOutput& out) const;
-    void appendPrefix(bool negative, TextOutput& out) const;
-    void appendSuffix(bool negative, TextOutput& out) const;
-    void appendMagnitude(double magnitude, TextOutput& out) const;
-    long long scaleToExponent(double& x) const;
-    void appendExponent(long long exponent, TextOutput& out) const;
-
-    static const std::string patternChars_;
+    static const std::string_view patternChars_;
 
     DecimalFormatSymbols symbols_;
     std::string negativePrefix_;

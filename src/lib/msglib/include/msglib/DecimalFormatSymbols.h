@@ -63,6 +63,7 @@ public:
     char getExponential() const { return exponential_; }
 
 private:
+    friend class DecimalForm;
     friend class DecimalFormat;
 
     std::string currencySymbol_ = "$";

@@ -107,8 +107,6 @@ protected:
     int minimumIntegerDigits_ = 0;  ///< see `getMinimumIntegerDigits`
 
 private:
-    friend class LocaleNumberFormat;
-
     static NumberFormat* createInstance(const std::locale& locale, FormatType type,
                                         const char* fallback);
 

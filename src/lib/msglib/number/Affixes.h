@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace zem::msglib {
+
+/// The texts before and after the digits of a number.
+struct Affixes {
+    std::string_view prefix;
+    std::string_view suffix;
+
+    bool areEmpty() const noexcept { return prefix.empty() && suffix.empty(); }
+};
+
+} // namespace zem::msglib

@@ -14,18 +14,14 @@ namespace {
 
 using namespace std::string_literals;
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr int choiceLevels = 3000;
-#else
 constexpr int choiceLevels = 10'000;
-#endif
 
-std::string nestedChoices() {
+std::string nestedChoices(std::string_view innermost) {
     std::string pattern;
     for (int level = 0; level < choiceLevels; ++level) {
         pattern += "{0,choice,#";
     }
-    pattern += "{0}";
+    pattern += innermost;
     for (int level = 0; level < choiceLevels; ++level) {
         pattern += level % 100 == 0 ? ".}" : "}";
     }
@@ -39,13 +35,55 @@ TEST(Extremes, NestedChoicesNeedNoDeepStack) {
     pthread_t thread;
     std::string text;
     const auto render = [](void* result) -> void* {
-        *static_cast<std::string*>(result) = outcome(nestedChoices(), {7});
+        *static_cast<std::string*>(result) = outcome(nestedChoices("{0}"), {7});
         return nullptr;
     };
     ASSERT_EQ(pthread_create(&thread, &attributes, render, &text), 0);
     ASSERT_EQ(pthread_join(thread, nullptr), 0);
     ASSERT_EQ(pthread_attr_destroy(&attributes), 0);
     EXPECT_EQ(text, "7" + std::string(choiceLevels / 100, '.'));
+}
+
+// Of the failures in nested messages, the first is that of the outermost message that does not
+// compile. What that message has appended before goes, and all that is outside of it stays.
+TEST(Extremes, NestedFailuresComeInTheOrderOfCompiling) {
+    expectOutcomes({
+        {__LINE__, "a{0,choice,0#b{0,choice,0#c{2}d}e}f", {0}, "abc!" + indexTooHigh},
+        {__LINE__, "a{0,choice,0#b{0,choice,0#c{2}d{x}}e}f", {0}, "ab!" + illegalArgument},
+        {__LINE__, "a{0,choice,0#b{0,choice,0#c{2}d}e{x}}f", {0}, "a!" + illegalArgument},
+        {__LINE__, "a{0,choice,0#b{0,choice,0#c{2}d}e}f{x}", {0}, "compile!" + illegalArgument},
+        {__LINE__,
+         "a{0,choice,0#b{0,number,0#}{0,choice,}}",
+         {0},
+         "a!digit mark (#) following zero-index"},
+        {__LINE__, "a{0,choice,0#b{2}{0,choice,}}", {0}, "a!" + styleRequired},
+        {__LINE__, "a{0,choice,0#b{1,choice,1}}", {0, "x"s}, "a!" + choiceSyntax},
+        {__LINE__, "a{0,choice,0#b{1,choice,1#c}}", {0, "x"s}, "ab!" + notANumber},
+        {__LINE__, "a{0,choice,0#b{0}}{0,choice,0#c{2}}", {0}, "ab0c!" + indexTooHigh},
+    });
+}
+
+// Cost beyond the linear one would run into the time that the test has.
+TEST(Extremes, DeepNestingCostsNoMoreThanItsLength) {
+    const std::string dots(choiceLevels / 100, '.');
+    const std::string text(std::size_t{4} << 20, 'x');
+    EXPECT_TRUE(outcome(nestedChoices(text), {0}) == text + dots);
+    EXPECT_TRUE(outcome(nestedChoices("") + text, {0}) == dots + text);
+    EXPECT_EQ(outcome(nestedChoices("{1}"), {0}), "!" + indexTooHigh);
+    EXPECT_EQ(outcome(nestedChoices("{1,number}"), {0, "x"s}), "!" + notANumber);
+}
+
+TEST(Extremes, ResultsHoldLittleMoreThanTheirText) {
+    constexpr std::size_t constant = 1024;
+    const Arguments texts(100'000, boost::any(""s));
+    std::string placeholders;
+    for (int count = 0; count < 10'000; ++count) {
+        placeholders += "{1}";
+    }
+    for (const std::string& pattern : {"{0}"s, placeholders, std::string(70'000, 'x')}) {
+        const std::string text = MessageLibrary::instance().formatMessage(pattern, texts);
+        EXPECT_LE(text.capacity(), 2 * text.size() + constant) << pattern.substr(0, 9);
+    }
 }
 
 constexpr std::size_t mebibyte = 1 << 20;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -35,7 +36,7 @@ public:
             appendBeyond(text);
             return;
         }
-        std::char_traits<char>::copy(end_, text.data(), text.size());
+        copy(text, end_);
         end_ += text.size();
     }
 
@@ -69,6 +70,30 @@ private:
         return static_cast<std::size_t>(gathered_ + largestRoom - end_);
     }
     void appendBeyond(std::string_view text);
+
+    // Short texts are copied as two words that may overlap: calling a function costs more.
+    static void copy(std::string_view text, char* to) noexcept {
+        if (text.size() > 16) {
+            std::memcpy(to, text.data(), text.size());
+        } else if (text.size() >= 8) {
+            copyEnds<8>(text, to);
+        } else if (text.size() >= 4) {
+            copyEnds<4>(text, to);
+        } else if (text.size() >= 2) {
+            copyEnds<2>(text, to);
+        } else if (!text.empty()) {
+            *to = text.front();
+        }
+    }
+
+    template <std::size_t Size>
+    static void copyEnds(std::string_view text, char* to) noexcept {
+        const std::size_t last = text.size() - Size;
+        char back[Size];
+        std::memcpy(back, text.data() + last, Size);
+        std::memcpy(to, text.data(), Size);
+        std::memcpy(to + last, back, Size);
+    }
 
     std::string& out_;
     char* end_ = gathered_;

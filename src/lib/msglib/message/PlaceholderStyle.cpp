@@ -61,8 +61,9 @@ void buildNumber(FormatElement& element, const std::locale& locale) {
     element.format_ = makeNumber(type, locale);
 }
 
+// Not inline, so that texts need not make room for locale values.
 template <NumberFormat::FormatType type>
-void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
+[[gnu::noinline]] void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
     LocaleNumber(type).appendArgument(argument, out);
 }
 

@@ -107,17 +107,17 @@ void DecimalFormat::appendMagnitude(double magnitude, TextOutput& out) const {
 // Divides a positive x by the power of ten that brings as many digits as the pattern asks for in
 // front of the point.
 long long DecimalFormat::scaleToExponent(double& x) const {
-    auto exponent = static_cast<long long>(std::floor(std::log(x) / std::log(10.0)));
+    std::int64_t exponent = decimalExponent(x);
     if (minimumIntegerDigits_ > 0) {
-        exponent += 1 - static_cast<long long>(minimumIntegerDigits_);
+        exponent += 1 - std::int64_t{minimumIntegerDigits_};
     }
-    const double power = powerOfTen(static_cast<double>(exponent));
+    const double power = powerOfTen(exponent);
     if (power > 0.0) {
         x /= power;
     } else {
         // No double holds this power, so the smallest numbers get there in two steps.
         constexpr int step = 300;
-        x = x * 1e300 / powerOfTen(static_cast<double>(exponent + step));
+        x = x * 1e300 / powerOfTen(exponent + step);
     }
     return exponent;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Binary64.h"
 #include "base/Scanning.h"
 
 #include <cstddef>

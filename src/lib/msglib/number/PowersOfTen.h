@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Binary64.h"
+
 #include <cstdint>
 
 namespace zem::msglib {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/PlainPowers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -61,12 +63,12 @@ inline std::string PlainDecimal::magnitudeText(double x) const {
     }
     int exponent = 0;
     if (minimumExponentDigits >= 0 && x > 0.0) {
-        exponent = static_cast<int>(std::floor(std::log(x) / std::log(10.0)));
+        exponent = plainDecimalExponent(x);
         exponent += minimumIntegerDigits > 0 ? 1 - minimumIntegerDigits : 0;
-        const double power = std::pow(10.0, exponent);
-        x = power > 0.0 ? x / power : x * 1e300 / std::pow(10.0, exponent + 300);
+        const double power = plainPowerOfTen(exponent);
+        x = power > 0.0 ? x / power : x * 1e300 / plainPowerOfTen(exponent + 300);
     }
-    x += std::pow(10.0, -maximumFractionDigits - 1) * 5.0;
+    x += plainPowerOfTen(-maximumFractionDigits - 1) * 5.0;
     const double whole = std::floor(x);
     std::string text =
         wholeText(whole, minimumIntegerDigits, groupingSize) + fractionText(x - whole);

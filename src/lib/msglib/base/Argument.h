@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Binary64.h"
 #include "base/Failure.h"
 
 #include <geom/Angle.h>

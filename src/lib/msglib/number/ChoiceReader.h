@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Binary64.h"
 #include "base/BraceIndex.h"
 #include "base/ScannedText.h"
 #include "base/Scanning.h"

@@ -3,25 +3,20 @@
 #include "number/NumberArgument.h"
 #include "number/PowersOfTen.h"
 
-#include <cmath>
 #include <limits>
 
 namespace zem::msglib {
 
 namespace {
 
-long long exponentOf(double x) {
-    return static_cast<long long>(std::floor(std::log(x) / std::log(10.0)));
-}
-
-double dividedByPower(double x, long long exponent) {
-    const double power = powerOfTen(static_cast<double>(exponent));
+double dividedByPower(double x, std::int64_t exponent) {
+    const double power = powerOfTen(exponent);
     if (power > 0.0) {
         return x / power;
     }
     // No double holds this power, so the smallest numbers get there in two steps.
     constexpr int step = 300;
-    return x * 1e300 / powerOfTen(static_cast<double>(exponent + step));
+    return x * 1e300 / powerOfTen(exponent + step);
 }
 
 } // namespace
@@ -48,11 +43,11 @@ void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
         return {x, 0};
     }
     const int digits = format_.minimumIntegerDigits_;
-    const long long exponent = exponentOf(x) + (digits > 0 ? 1LL - digits : 0);
+    const std::int64_t exponent = decimalExponent(x) + (digits > 0 ? std::int64_t{1} - digits : 0);
     return {dividedByPower(x, exponent), exponent};
 }
 
-[[gnu::noinline]] void DecimalForm::appendExponentDigits(long long exponent,
+[[gnu::noinline]] void DecimalForm::appendExponentDigits(std::int64_t exponent,
                                                          TextOutput& out) const {
     out.append(format_.symbols_.exponential_);
     if (exponent < 0) {

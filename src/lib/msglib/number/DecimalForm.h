@@ -51,7 +51,7 @@ public:
     ScaledNumber scale(double x) const {
         return format_.useExponentialNotation_ ? scaleToExponent(x) : ScaledNumber{x, 0};
     }
-    void appendExponent(long long exponent, TextOutput& out) const {
+    void appendExponent(std::int64_t exponent, TextOutput& out) const {
         if (format_.useExponentialNotation_) {
             appendExponentDigits(exponent, out);
         }
@@ -77,7 +77,7 @@ private:
         return static_cast<std::size_t>(std::max(digits, 0));
     }
     ScaledNumber scaleToExponent(double x) const;
-    void appendExponentDigits(long long exponent, TextOutput& out) const;
+    void appendExponentDigits(std::int64_t exponent, TextOutput& out) const;
 
     const DecimalFormat& format_;
 };

@@ -252,7 +252,7 @@ double roundingOf(int maximumFractionDigits) noexcept {
     if (maximumFractionDigits >= 0 && maximumFractionDigits < static_cast<int>(std::size(usual))) {
         return usual[maximumFractionDigits];
     }
-    return powerOfTen(-static_cast<double>(maximumFractionDigits) - 1.0) * 5.0;
+    return powerOfTen(-std::int64_t{maximumFractionDigits} - 1) * 5.0;
 }
 
 void appendDigits(double x, const DigitLayout& layout, TextOutput& out) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Binary64.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -22,7 +24,7 @@ struct DigitLayout {
 
 /// Returns what is added to a number before its digits are cut off: half a unit of the last digit.
 ///
-/// The same bits as `std::pow(10.0, -maximumFractionDigits - 1.0) * 5.0`.
+/// That is 10 to the power -maximumFractionDigits - 1, as the nearest double, times 5.
 double roundingOf(int maximumFractionDigits) noexcept;
 
 /// Appends the digits of `x`, which is finite and not negative. Nothing is rounded, and trailing

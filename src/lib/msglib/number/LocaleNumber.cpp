@@ -110,7 +110,7 @@ public:
 
     // No locale has exponents.
     static ScaledNumber scale(double x) noexcept { return {x, 0}; }
-    static void appendExponent(long long, TextOutput&) noexcept {}
+    static void appendExponent(std::int64_t, TextOutput&) noexcept {}
 
     DigitLayout digitLayout() const noexcept {
         constexpr std::size_t mostIntegerDigits = 309;

@@ -5,6 +5,7 @@
 #include "number/DigitWriter.h"
 
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <string_view>
 
@@ -28,7 +29,7 @@ namespace zem::msglib {
 /// A number divided by 10 to the power `exponent`.
 struct ScaledNumber {
     double number;
-    long long exponent;
+    std::int64_t exponent;
 };
 
 /// Appends sign and affixes, and what `appendDigits()` appends between them.

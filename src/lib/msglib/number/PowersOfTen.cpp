@@ -1,31 +1,58 @@
 #include "number/PowersOfTen.h"
 
-#include <cmath>
+#include "number/PowersOfTenTables.h"
+
 #include <cstddef>
+#include <cstring>
 #include <iterator>
+#include <limits>
 
 namespace zem::msglib {
 
+// The last bits of pow and log depend on the C library and the processor, so digits that came from
+// them would, too. These tables take their place. The index of an entry is its exponent minus the
+// first one.
+static_assert(std::size(powersOfTen) == lastPowerOfTen - firstPowerOfTen + 1);
+static_assert(std::size(exponentDistances) == std::size(powersOfTen));
+
 namespace {
 
-constexpr int least = -18;
-constexpr double table[] = {1e-18, 1e-17, 1e-16, 1e-15, 1e-14, 1e-13, 1e-12, 1e-11, 1e-10, 1e-9,
-                            1e-8,  1e-7,  1e-6,  1e-5,  1e-4,  1e-3,  1e-2,  1e-1,  1e0,   1e1,
-                            1e2,   1e3,   1e4,   1e5,   1e6,   1e7,   1e8,   1e9,   1e10,  1e11,
-                            1e12,  1e13,  1e14,  1e15,  1e16,  1e17,  1e18};
+// Positive doubles are ordered as their bits are.
+std::int64_t bitsOf(double x) noexcept {
+    std::int64_t bits = 0;
+    static_assert(sizeof bits == sizeof x);
+    std::memcpy(&bits, &x, sizeof bits);
+    return bits;
+}
+
+std::int64_t leastBitsWithExponentAt(std::size_t index) noexcept {
+    return bitsOf(powersOfTen[index]) + exponentDistances[index];
+}
 
 } // namespace
 
-double powerOfTen(double exponent) noexcept {
-    if (exponent >= least && exponent < least + static_cast<int>(std::size(table))) {
-        return table[static_cast<int>(exponent) - least];
+double powerOfTen(std::int64_t exponent) noexcept {
+    if (exponent < firstPowerOfTen) {
+        return 0.0;
     }
-#if defined(__MINGW32__)
-    // Its pow for double is off by many bits: 28 units in the last place at 1e-30, 282 at 1e-292.
-    return static_cast<double>(std::pow(10.0L, static_cast<long double>(exponent)));
-#else
-    return std::pow(10.0, exponent);
-#endif
+    if (exponent > lastPowerOfTen) {
+        return std::numeric_limits<double>::infinity();
+    }
+    return powersOfTen[exponent - firstPowerOfTen];
+}
+
+int decimalExponent(double x) noexcept {
+    // The binary exponent leaves two decimal ones, or a few where x is subnormal. With f for the
+    // exponent field, x is less than 2 to the power f - 1022, so that the index is at most
+    // (f - 1022) * log10(2) + 324. Both constants are rounded up, in units of 2 to the power -20.
+    constexpr std::int64_t log10Of2 = 315653;
+    constexpr std::int64_t indexOfLeastNormal = 17141434;
+    const std::int64_t bits = bitsOf(x);
+    auto index = static_cast<std::size_t>(((bits >> 52) * log10Of2 + indexOfLeastNormal) >> 20);
+    while (bits < leastBitsWithExponentAt(index)) {
+        --index;
+    }
+    return static_cast<int>(index) + firstPowerOfTen;
 }
 
 } // namespace zem::msglib

@@ -1,11 +1,19 @@
 #pragma once
 
+#include "base/Binary64.h"
+
+#include <cstdint>
+
 namespace zem::msglib {
 
-/// Returns 10 to the power `exponent`, which may be any `double` that holds an integer.
+/// Returns the double nearest to 10 to the power `exponent`: 0 below -323, infinity above 308.
+double powerOfTen(std::int64_t exponent) noexcept;
+
+/// Returns floor(log(x) / log(10.0)) for a positive finite `x`, where `log` and the division round
+/// to the nearest double.
 ///
-/// The same bits as `std::pow(10.0, exponent)`. Small exponents come from a table, and a test
-/// compares the two.
-double powerOfTen(double exponent) noexcept;
+/// That isn't the exponent of the first digit everywhere: 1000 has 2, since its quotient is
+/// 2.9999999999999996.
+int decimalExponent(double x) noexcept;
 
 } // namespace zem::msglib

@@ -1,0 +1,22 @@
+#pragma once
+
+// Every digit follows from single operations of plain binary64 arithmetic, so sources that compute
+// with doubles include this. It refuses what macros and constants show of other arithmetic. Some
+// compilers have options that show nowhere; cmake/PlainArithmetic.cpp looks for their effects.
+
+#include <cfloat>
+#include <limits>
+
+#if defined(__FAST_MATH__) || __FINITE_MATH_ONLY__ || defined(__ASSOCIATIVE_MATH__) ||             \
+    defined(__RECIPROCAL_MATH__)
+#error "msglib needs plain binary64 arithmetic: no -Ofast, no -ffast-math and none of its parts"
+#endif
+
+#if FLT_EVAL_METHOD != 0
+#error "msglib needs plain binary64 arithmetic: on x86 it takes -msse2 -mfpmath=sse"
+#endif
+
+static_assert(std::numeric_limits<double>::is_iec559 && std::numeric_limits<double>::digits == 53,
+              "msglib needs plain binary64 arithmetic");
+static_assert(0.1 != 0.1F,
+              "msglib needs plain binary64 arithmetic: no -fsingle-precision-constant");

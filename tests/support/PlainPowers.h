@@ -1,0 +1,12 @@
+#pragma once
+
+namespace zem::msglib {
+
+/// Returns the double nearest to 10 to the power `exponent`, as the standard library reads it.
+double plainPowerOfTen(int exponent);
+
+/// Returns floor(log(x) / log(10.0)) for a positive finite `x`, with logarithms of 50 digits that
+/// are rounded to the nearest double.
+int plainDecimalExponent(double x);
+
+} // namespace zem::msglib

@@ -36,8 +36,9 @@ void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
     });
 }
 
-// Divides by the power of ten that brings as many digits before the point as the pattern asks for.
-// Zero and infinity have none.
+// Divides by the power of ten that brings as many digits before the point as the pattern asks for;
+// zero and infinity stay as they are. Like the other half of exponents it isn't inline, so that
+// numbers without an exponent need not make room for it.
 [[gnu::noinline]] ScaledNumber DecimalForm::scaleToExponent(double x) const {
     if (x == 0.0 || x == std::numeric_limits<double>::infinity()) {
         return {x, 0};

@@ -11,8 +11,8 @@
 #include <string_view>
 #include <utility>
 
-// A scanner over bytes turns a pattern into the fields. What the fields come to in the text of a
-// number is in `DecimalForm`.
+// The compiler is a scanner over bytes that turns a pattern into the fields. `DecimalForm` turns the
+// fields into the text of a number.
 
 namespace zem::msglib {
 

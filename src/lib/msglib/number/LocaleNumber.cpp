@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <cstdio>
 
-// The locale values give a pattern of which little varies: the counts of digits, and affixes from a
-// few fixed ones. So nothing is compiled here: the same values that make up the text of the pattern
-// are what compiling it would come to.
+// Little varies in a pattern that the locale values give: three counts of digits, and affixes out of
+// small tables. They are kept as they would be compiled, so that a number needs no compiled pattern,
+// and the text of the pattern is put together from them.
 
 namespace zem::msglib {
 
@@ -58,7 +58,7 @@ bool isLocaleKnown() noexcept {
     return platform::IsValidLocale(locale, platform::LCID_INSTALLED);
 }
 
-// A symbol, or what it starts as where the platform doesn't have it.
+// A symbol. One that the platform doesn't have stays what it starts as in `DecimalFormatSymbols`.
 class LocaleSymbol {
 public:
     LocaleSymbol(std::uint32_t lctype, std::string_view start) noexcept
@@ -75,7 +75,7 @@ private:
 
 } // namespace
 
-// The form for the writer of numbers, with the symbols between the digits.
+// The form for the writer of numbers, with the symbols that stand between digits.
 class LocaleNumber::Form {
 public:
     explicit Form(const LocaleNumber& number) noexcept : Form(number, number.isMonetary()) {}
@@ -154,7 +154,7 @@ LocaleNumber::LocaleNumber(NumberFormat::FormatType type) noexcept
     }
 }
 
-// Whole numbers differ from this in nothing but the fraction that they fall back to.
+// The fallback pattern for integers has a fraction; nothing else is different.
 LocaleNumber LocaleNumber::rounded() noexcept {
     LocaleNumber number(NumberFormat::Integer);
     number.maximumFractionDigits_ = 0;
@@ -177,7 +177,7 @@ void LocaleNumber::readValues() noexcept {
     }
 }
 
-// Without digits to end the prefix, all of it is prefix.
+// In a pattern without digit marks nothing ends the prefix, so it takes in what would be the suffix.
 void LocaleNumber::readCurrencyMark() noexcept {
     std::string_view& back = hasDigitMarks() ? affixes_.suffix : affixes_.prefix;
     switch (LocaleNumberValue(platform::LOCALE_ICURRENCY).first()) {
@@ -206,7 +206,7 @@ bool LocaleNumber::hasDigitMarks() const noexcept {
     return groupSize_ > 0 || hasLeadingZero_ || maximumFractionDigits_ > 0;
 }
 
-// All affixes of amounts have the currency sign, but for the "$" that is fallen back to.
+// All affixes of amounts hold the currency sign, except those of the fallback pattern.
 bool LocaleNumber::isMonetary() const noexcept {
     return isKnown_ && type_ == NumberFormat::Currency &&
            (!affixes_.areEmpty() || !negativeAffixes().areEmpty());

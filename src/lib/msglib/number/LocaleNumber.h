@@ -12,21 +12,22 @@ namespace zem::msglib {
 
 class TextOutput;
 
-/// Numbers of one type as the platform's locale values have them, for the factories and for
-/// messages: the pattern for a formatter that is kept, and the text of a number at once, which is
-/// what such a formatter writes.
+/// Numbers of one type, as the platform's locale values describe them.
+///
+/// It gives the pattern for the formatter that a factory makes, and the text of a number at once,
+/// which is the text that such a formatter writes.
 class LocaleNumber {
 public:
-    /// Asks the platform for the digits and the affixes of numbers that aren't negative; for what
-    /// else the pattern or the text needs, each operation asks by itself.
+    /// Asks the platform for the digits and for the affixes of numbers that aren't negative. The
+    /// other operations ask for what else they need.
     explicit LocaleNumber(NumberFormat::FormatType type) noexcept;
 
-    /// Returns plain numbers without a fraction: the pattern of `NumberFormat::Number` and then
+    /// Returns plain numbers without a fraction: the pattern of `NumberFormat::Number`, followed by
     /// `setMaximumFractionDigits(0)`.
     static LocaleNumber rounded() noexcept;
 
-    /// Tells whether the platform knows the locale. If not, this is what the factories fall back
-    /// to.
+    /// Returns whether the platform knows the locale. If it doesn't, this object describes the
+    /// numbers of the factories' fallback patterns.
     bool isKnown() const noexcept { return isKnown_; }
 
     /// Returns the pattern for `DecimalFormat`: "#,##0.00;-#".

@@ -41,8 +41,8 @@ public:
     DecimalFormat& operator=(const DecimalFormat& other);
     ~DecimalFormat() override;
 
-    /// Compiles `pattern` over the present state. Only the symbols stay, even from the setters
-    /// nothing does.
+    /// Compiles `pattern` over the present state. Only the symbols stay; what the setters stored is
+    /// overwritten.
     ///
     /// A failure leaves the formatter as far as the compilation got.
     ///

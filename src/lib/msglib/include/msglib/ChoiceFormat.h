@@ -13,19 +13,22 @@ namespace zem::msglib {
 ///     pattern = segment { ( "|" | unmatched "}" ) segment }
 ///     segment = limit ( "#" | "<" | "+" ) text
 ///
-/// A text is chosen from its limit up to, and not including, the next limit; with "<" or "+" the
-/// limit is the next `double` above the number. The first text also serves what lies below its
-/// limit, and NaN. Braces in a text must match; inside them a "|" is plain. In a text, "''" is one
-/// apostrophe, and an apostrophe with at least two more bytes behind it takes the first of them
-/// without a meaning of its own and drops the second.
+/// A text is chosen for the numbers from its limit up to, and not including, the next limit. With
+/// "#" the limit is the number as written, with "<" or "+" the next `double` above it. The first
+/// text is also chosen for NaN and for every number below its limit.
 ///
 /// A limit is read as formatted extraction from a stream reads a `double`, by the global
-/// `std::locale`; what is no number counts as 0. Nothing sorts or checks the limits.
+/// `std::locale`. Characters that aren't a number count as 0. Nothing sorts or checks the limits.
 ///
-/// In a message, the chosen text is a message pattern of its own; by itself this class gives the
-/// text as it is.
+/// Braces in a text must match, and "|" between them is plain. "''" is one apostrophe. Any other
+/// apostrophe with at least two more bytes after it makes the first of them plain and drops the
+/// second: "'{'" is a brace, and "it's here" becomes "itshere".
 ///
-/// Assignment and `applyPattern` need the object alone; `format` operations only read it.
+/// In a message, the chosen text is a message pattern. This class by itself appends it as it is.
+///
+/// Compiling takes time linear in the pattern, choosing in the number of texts.
+///
+/// Threads: const operations may run at once on one object; every other operation needs it alone.
 class MSGLIB_API ChoiceFormat : public NumberFormat {
 public:
     /// Compiles `pattern`.
@@ -37,11 +40,12 @@ public:
     ChoiceFormat& operator=(const ChoiceFormat& other);
     ~ChoiceFormat() override;
 
-    /// Compiles `pattern` in place of the present one.
+    /// Replaces the compiled pattern by that of `pattern`.
     ///
-    /// @throws std::runtime_error "Syntax error in choice format." at the first segment without a
-    /// separator, such as the
-    ///         empty one behind a "|" at the end. The segments in front of it stay.
+    /// A failure leaves the segments before the failing one.
+    ///
+    /// @throws std::runtime_error "Syntax error in choice format." for a segment without a
+    ///         separator, such as the empty one after a "|" at the end
     void applyPattern(const std::string& pattern);
 
     using NumberFormat::format;
@@ -51,7 +55,7 @@ public:
     /// @throws std::out_of_range outside the range of 32 bits, where `long` is wider than that
     std::string& format(long value, std::string& out) const override;
 
-    /// Appends the text chosen by `value`; nothing if a failed `applyPattern` has left no text.
+    /// Appends the text chosen by `value`, or nothing if a failed `applyPattern` left no text.
     ///
     ///     "0#none|1#one|1<many"    0.5 -> "none"    1 -> "one"    1.5 -> "many"    -1 -> "none"
     std::string& format(double value, std::string& out) const override;

@@ -6,10 +6,12 @@
 
 namespace zem::msglib {
 
-/// Base of the formatters of points in time, with the factories that pick a pattern from the
-/// platform's locale values.
+/// Base of the formatters of points in time.
 ///
-/// What the factories return is a new `SimpleDateFormat`, which the caller owns.
+/// The static factories return a new `SimpleDateFormat`, which the caller owns. Its pattern comes
+/// from the platform's locale values.
+///
+/// Threads: const operations may run at once on one object; every other operation needs it alone.
 class MSGLIB_API DateFormat : public Format {
 public:
     /// Which of the locale's date patterns is meant.
@@ -26,14 +28,19 @@ public:
 
     using Format::format;
 
-    /// Returns a new formatter of dates in `style`; any other value of the enumeration gives the
-    /// empty pattern.
+    /// Returns a new formatter of dates in `style`.
     ///
-    /// `locale` is kept in the formatter and selects nothing. A value that the platform doesn't
-    /// have is the empty pattern.
+    /// The formatter has the empty pattern for a value outside the enumeration, and where the
+    /// platform doesn't have the locale value.
+    ///
+    /// @param locale  kept in the formatter; selects nothing
+    ///
+    ///     getDateInstance(DateFormat::Short, locale) with 0 -> "1/1/1970"
     static DateFormat* getDateInstance(Style style, const std::locale& locale);
 
     /// Returns a new formatter of the time of day, by the locale's pattern.
+    ///
+    ///     getTimeInstance(locale) with 0 -> "12:00:00 AM"
     static DateFormat* getTimeInstance(const std::locale& locale);
 
 protected:

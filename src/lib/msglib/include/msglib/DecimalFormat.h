@@ -11,22 +11,32 @@ namespace zem::msglib {
 
 /// Writes numbers by a pattern such as "#,##0.00;(#,##0.00)".
 ///
-///     pattern    = subpattern [ ";" subpattern ]          the second one is for negative numbers
+///     pattern    = subpattern [ ";" subpattern ]
 ///     subpattern = affix number affix
 ///     number     = integer [ "." fraction ] [ "E" exponent ]
-///     integer    = marks "#" and then "0", with "," as group boundary; only the marks behind the
-///     last "," count fraction   = marks "0" and then "#" exponent   = marks "#", which count for
-///     nothing, and then "0" affix      = any text without ". , # 0 E ;"
+///     integer    = { "#" | "," } { "0" | "," }
+///     fraction   = { "0" } { "#" }
+///     exponent   = { "#" } { "0" }
+///     affix      = any text without . , # 0 E ; and, in a prefix, %
 ///
-/// A `0` is a digit that is always written, a `#` one that is written when it says something. In an
-/// affix, "''" is one apostrophe and an apostrophe, a byte and an apostrophe are that byte without
-/// a meaning of its own. The byte 0xA4 is the local currency symbol, twice in a row the
-/// international one; either selects the monetary separators. A `%` in a suffix multiplies by 100;
-/// in a prefix it ends the prefix. Of the negative subpattern only the affixes count. Each empty
-/// one falls back to its positive twin, and if both are empty, the minus sign stands in front.
+/// - A "0" is a digit that is always written, a "#" one that is written unless it is a zero at the
+///   start of an integer or at the end of a fraction. A "#" of the exponent has no effect.
+/// - A "," separates groups. Their size is the number of marks after the last ",".
+/// - In an affix, "''" is one apostrophe. An apostrophe, any byte and an apostrophe are that byte as
+///   plain text.
+/// - The byte 0xA4 in an affix is the local currency symbol, twice in a row the international one.
+///   Either selects the monetary separators.
+/// - A "%" in a suffix multiplies by 100.
+/// - The second subpattern is for negative numbers, and only its affixes count. An empty one falls
+///   back to its positive twin. If both are empty, the minus sign comes first.
 ///
-/// The symbols are the object's own copy. Assignment and `applyPattern` need the object alone;
-/// `format` operations only read it.
+/// The object has its own copy of the symbols.
+///
+/// Compiling takes time linear in the pattern, rendering in the text. The text of a number has at
+/// most 309 integer digits, or as many as the fewest asked for, and as many fraction digits as the
+/// pattern allows, besides separators, exponent and affixes.
+///
+/// Threads: const operations may run at once on one object; every other operation needs it alone.
 class MSGLIB_API DecimalFormat : public NumberFormat {
 public:
     /// Compiles `pattern`, with a copy of `symbols`.
@@ -34,17 +44,19 @@ public:
     /// @throws std::runtime_error as `applyPattern` does
     DecimalFormat(const std::string& pattern, const DecimalFormatSymbols& symbols);
 
-    /// The same with symbols that the caller gives away.
+    /// Compiles `pattern`, with `symbols` moved into the object.
+    ///
+    /// @throws std::runtime_error as `applyPattern` does
     DecimalFormat(const std::string& pattern, DecimalFormatSymbols&& symbols);
 
     DecimalFormat(const DecimalFormat& other);
     DecimalFormat& operator=(const DecimalFormat& other);
     ~DecimalFormat() override;
 
-    /// Compiles `pattern` over the present state. Only the symbols stay; what the setters stored is
-    /// overwritten.
+    /// Replaces the compiled pattern by that of `pattern`. Compiling overwrites what the setters
+    /// stored and keeps the symbols.
     ///
-    /// A failure leaves the formatter as far as the compilation got.
+    /// A failure leaves the formatter as far as compiling got.
     ///
     /// @throws std::runtime_error with one of these texts:
     ///         "digit mark (#) following zero-index", "zero mark following digit",
@@ -54,9 +66,9 @@ public:
 
     using NumberFormat::format;
 
-    /// Appends the text of a whole number: no multiplier, no rounding, and exactly as many zeros
-    /// for a fraction as the fewest fraction digits say. A pattern with an exponent goes the way of
-    /// a `double`.
+    /// Appends the text of a whole number. The multiplier isn't applied, nothing is rounded, and
+    /// the fraction is as many zeros as the fewest fraction digits. A pattern with an exponent
+    /// writes `value` as a `double`.
     ///
     ///     "#,##0.###"  -1234567 -> "-1,234,567"      "#,##0%"  5 -> "5%"
     ///
@@ -66,10 +78,10 @@ public:
     /// Appends the text of a number.
     ///
     /// Rounding adds half a unit of the last fraction digit to the magnitude, as a sum of two
-    /// `double`: what is stored decides, so ties of whole numbers go away from zero, while a tie in
-    /// the fraction may go either way. Integer digits are exact below 2 to the power
-    /// 53; above that they are what repeated division of a `double` by ten gives. Integer digits
-    /// beyond the maximum are dropped.
+    /// `double`, and cuts the rest. The stored value decides: ties of whole numbers go away from
+    /// zero, while a tie in the fraction may go either way. Integer digits are exact below 2 to the
+    /// power 53; above that they are what repeated division of a `double` by ten gives. Integer
+    /// digits beyond the maximum are dropped.
     ///
     /// @param value  any binary64; NaN and the infinities have texts of their own
     /// @throws nothing of its own

@@ -9,15 +9,18 @@ namespace zem::msglib {
 
 /// The texts and characters that a number is written with.
 ///
-/// A value: it changes only by assignment, copies are independent, and several threads may read one
-/// object. The texts are the platform's bytes, and may be of any length, the empty one included; a
-/// moved-from object holds unspecified texts.
+/// A value that changes only by assignment; copies are independent. The texts are the platform's
+/// bytes and of any length, empty ones included. A moved-from object holds unspecified texts.
+///
+/// Threads: const operations may run at once on one object; every other operation needs it alone.
 class MSGLIB_API DecimalFormatSymbols {
 public:
-    /// Asks the platform for the locale's symbols.
+    /// Asks the platform for the locale's symbols. A symbol that the platform doesn't have stays at
+    /// the starting value that its getter names.
     ///
-    /// `locale` selects nothing: every query is for one fixed locale. A query that fails leaves its
-    /// own symbol at the starting value that its getter names.
+    /// @param locale  selects nothing: every query is for one fixed locale
+    ///
+    ///     DecimalFormatSymbols().getGroupingSeparator() -> ","
     DecimalFormatSymbols(const std::locale& locale = std::locale());
 
     DecimalFormatSymbols(const DecimalFormatSymbols& other);
@@ -53,13 +56,13 @@ public:
     /// The group separator of amounts; starts as ",".
     std::string getMonetaryGroupingSeparator() const { return monetaryGroupingSeparator_; }
 
-    /// The percent sign; always '%'. Patterns write '%' by themselves and never ask here.
+    /// The percent sign; always '%'. Patterns write '%' whatever this is.
     char getPercent() const { return percent_; }
 
-    /// The digit zero; starts as '0'. The other digits are the nine bytes behind it.
+    /// The digit zero; starts as '0'. The other digits are the nine bytes after it.
     char getZeroDigit() const { return zeroDigit_; }
 
-    /// The mark in front of an exponent; always 'E'.
+    /// The mark before an exponent; always 'E'.
     char getExponential() const { return exponential_; }
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 
 #if !defined(__GXX_RTTI) && !defined(_CPPRTTI)
-#error "msglib needs run-time type information: arguments are told apart by it. Leave out -fno-rtti."
+#error "msglib tells arguments apart by run-time type information: compile without -fno-rtti"
 #endif
 
 /// Marks what the library makes public; every other symbol stays inside it.

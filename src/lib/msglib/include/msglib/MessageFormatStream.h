@@ -13,13 +13,16 @@ namespace zem::msglib {
 ///
 ///     std::string text = (MessageFormatStream(MSG_COPIED) << 7 << folder).toString();
 ///
-/// Streaming another stream joins its message behind this one's. All of it works on temporaries, so
-/// `operator<<` takes a const stream; it changes the stream all the same, and so does `toString`. A
-/// stream belongs to one thread at a time, even as const. A moved-from stream may only be assigned
-/// to or destroyed.
+/// Streaming another stream joins its message to this one. Everything works on temporaries, so
+/// `operator<<` takes a const stream. It changes the stream all the same, and so does `toString`.
 ///
-/// Copies are deep, but for the characters of a pattern: these stay the caller's, and must stay
-/// valid and unchanged as long as any stream made from them, by copying or joining too, can render.
+/// Copies are deep, except that the characters of a pattern are borrowed: they must stay valid and
+/// unchanged as long as any stream made from them, by copying or joining too, can render. A
+/// moved-from stream may only be assigned to or destroyed.
+///
+/// Adding an argument takes constant time and one copy of it.
+///
+/// Threads: a stream belongs to one thread at a time, even as const.
 class MSGLIB_API MessageFormatStream {
 public:
     /// Begins the message that a registered module carries under `messageId`.
@@ -34,10 +37,11 @@ public:
     /// Takes everything from `other`, which may then only be assigned to or destroyed.
     MessageFormatStream(MessageFormatStream&& other) noexcept;
 
-    /// The same as copying, in place of what this stream held; to itself it changes nothing.
+    /// Replaces what this stream held by a copy. Assigning a stream to itself changes nothing.
     MessageFormatStream& operator=(const MessageFormatStream& other);
 
-    /// The same as moving, in place of what this stream held; to itself it changes nothing.
+    /// Replaces what this stream held by everything that `other` has. Assigning a stream to itself
+    /// changes nothing.
     MessageFormatStream& operator=(MessageFormatStream&& other) noexcept;
 
     ~MessageFormatStream();
@@ -47,17 +51,15 @@ public:
 
     /// Renders the current message, appends it to the text so far and returns all of that text.
     ///
-    /// Each call renders and appends anew, so a second call gives the message twice.
+    /// Each call renders and appends anew, so a second call returns the message twice.
     ///
-    /// A message by identifier fails with text: what goes wrong in fetching, compiling or rendering
-    /// it comes back as words in the message's place. A message by pattern fails with the exception
-    /// of `MessageFormat`; the text so far stays.
+    /// If a message by identifier can't be fetched, compiled or rendered, the words of the failure
+    /// take its place in the text. A message by pattern throws instead, as `MessageFormat` does,
+    /// and the text so far stays.
     ///
     /// @throws std::runtime_error "Invalid message ID" if the identifier's facility isn't
-    /// registered
-    /// @throws std::out_of_range  for an argument that doesn't fit, and any other exception but
-    /// `std::runtime_error`, by
-    ///         either way
+    ///         registered
+    /// @throws std::out_of_range  for a `long` or `unsigned long` argument that doesn't fit
     std::string toString() const;
 
 private:
@@ -94,11 +96,11 @@ private:
 
 /// Adds an argument to the current message of `stream`, and returns `stream`.
 ///
-/// Each value is copied and keeps its own type; a `char` becomes a text of one byte. A `const
-/// char*` ends at its NUL and must not be null; a view keeps its NULs.
+/// Each value is copied and keeps its own type; a `char` becomes a text of one byte. A
+/// `const char*` ends at its NUL and must not be null; a view keeps its NULs.
 ///
 /// @throws std::out_of_range from the `long` and `unsigned long` forms, outside the range of 32
-/// bits
+///         bits
 MSGLIB_API MessageFormatStream& operator<<(const MessageFormatStream& stream, char value);
 /// @copydoc operator<<(const MessageFormatStream&, char)
 MSGLIB_API MessageFormatStream& operator<<(const MessageFormatStream& stream, int value);
@@ -124,15 +126,15 @@ MSGLIB_API MessageFormatStream& operator<<(const MessageFormatStream& stream,
 MSGLIB_API MessageFormatStream& operator<<(const MessageFormatStream& stream,
                                            const std::string_view& value);
 
-/// Joins the message of `value` behind that of `stream`, and returns `stream`.
+/// Joins the message of `value` to that of `stream`, and returns `stream`.
 ///
 /// The message so far is rendered into the text of `stream`, as by `toString`. Then `stream` takes
 /// over the identifier or pattern and a copy of the arguments of `value`, and later arguments go to
 /// that message. The text that `value` has rendered so far is not taken. A stream joined to itself
 /// keeps its message, which then appears twice.
 ///
-///     (MessageFormatStream("a{0}") << "1" << MessageFormatStream("b{0}") << "2").toString() ->
-///     "a1b2"
+///     MessageFormatStream first("a{0}"), second("b{0}");
+///     (first << "1" << second << "2").toString() -> "a1b2"
 ///
 /// @throws whatever `toString` throws; `stream` keeps its old message and arguments then
 MSGLIB_API MessageFormatStream& operator<<(const MessageFormatStream& stream,

@@ -11,24 +11,23 @@
 
 namespace zem::msglib {
 
-/// Where a module registers the messages that it carries; all that a module needs which renders
-/// through streams.
+/// Where a module registers the messages that it carries. A module that renders through streams
+/// needs no more than this.
 class MSGLIB_API IMessageLibrary {
 public:
-    /// Makes `facility` stand for the module that `address` lies in. The last registration of a
-    /// number wins.
+    /// Registers the module that `address` lies in for the messages of `facility`. The last
+    /// registration of a number wins.
     ///
-    /// The module must stay loaded as long as its messages may be asked for. Only numbers to 0x7FF
-    /// can be asked for.
+    /// The module must stay loaded as long as its messages may be asked for.
     ///
-    /// `address` is that of an object that surely lies in the module itself: a static object or a
-    /// string literal. An exported variable or an inline function may turn out to be the program's
-    /// own. The function that `msglib_add_catalogue` generates does it right.
-    ///
-    /// Threads: nothing else may register, and nobody render by identifier, at the same time.
-    ///
+    /// @param facility  any number; identifiers reach those up to 0x7FF
+    /// @param address   of a static object or a string literal of the module. An exported variable
+    ///                  or an inline function may resolve to another module. The function that
+    ///                  `msglib_add_catalogue` generates passes the right one.
     /// @throws std::invalid_argument "Address is not inside a loaded module"; the registrations
-    /// stay as they were
+    ///         stay as they were
+    ///
+    /// Threads: no other registration and no rendering by identifier may run at the same time.
     virtual void registerFacility(unsigned int facility, const void* address) = 0;
 
     /// Returns the one message library, as `MessageLibrary::instance()` does.
@@ -45,9 +44,11 @@ protected:
 /// it names the message in the table of that facility's module. Texts are taken in English (United
 /// States) and no other language.
 ///
-/// There is one object, from the first `instance()` until the library is unloaded. Nothing is
-/// cached: each rendering fetches and compiles its text anew. Once registration is over, any number
-/// of threads may render at once.
+/// There is one object, from the first `instance()` until the library is unloaded: destructors of
+/// static objects may still render. Nothing is cached: each rendering fetches and compiles its text
+/// anew.
+///
+/// Threads: const operations may run at once on one object; registering needs it alone.
 class MSGLIB_API MessageLibrary : public IMessageLibrary {
 public:
     MessageLibrary(const MessageLibrary&) = delete;
@@ -58,20 +59,21 @@ public:
 
     void registerFacility(unsigned int facility, const void* address) override;
 
-    /// Returns the text of a literal pattern with `args`; it fails as `MessageFormat` does.
+    /// Returns the text of a literal pattern with `args`. Fails as `MessageFormat` does.
+    ///
+    ///     formatMessage("{0} of {1}", {7, 10}) -> "7 of 10"
     std::string formatMessage(const std::string& pattern, const std::list<boost::any>& args) const;
 
     /// Returns the text of the catalogued message `messageId` with `args`. Line ends CR LF of the
     /// table become LF.
     ///
-    /// What goes wrong in fetching, compiling or rendering is the result, as words: "Invalid
-    /// message ID" if the module has no such message, "Unable to convert message string" if its
-    /// text can't be made UTF-8, and the words of every `std::runtime_error` of `MessageFormat`.
+    /// If that fails, the result is the words of the failure: "Invalid message ID" if the module
+    /// has no such message, "Unable to convert message string" if its text can't be converted to
+    /// UTF-8, and those of every `std::runtime_error` of `MessageFormat`.
     ///
     /// @throws std::runtime_error "Invalid message ID" if the identifier's facility isn't
-    /// registered
-    /// @throws std::out_of_range  for an argument that doesn't fit, and any other exception but
-    /// `std::runtime_error`
+    ///         registered
+    /// @throws std::out_of_range  for a `long` or `unsigned long` argument that doesn't fit
     std::string formatMessage(unsigned int messageId, const std::list<boost::any>& args) const;
 
 private:

@@ -9,17 +9,17 @@ namespace zem::msglib {
 
 class DecimalFormat;
 
-/// Base of the formatters of numbers: the digit limits, the grouping switch and the reading of
+/// Base of the formatters of numbers: digit limits, the grouping switch and the reading of
 /// arguments.
 ///
-/// The static factories make a `DecimalFormat` from the platform's locale values. A `ChoiceFormat`
-/// keeps the limits at zero and never reads them.
+/// The static factories return a new `DecimalFormat`, which the caller owns. Its pattern comes from
+/// the platform's locale values. A `ChoiceFormat` keeps the limits at zero and never reads them.
 ///
-/// Digit limits are counts: a caller keeps them non-negative. Each pair keeps its minimum not above
-/// its maximum, because the setter called last drags its partner along. Compiling a pattern
-/// overwrites what the setters stored.
+/// Digit limits are counts, and callers keep them non-negative. No minimum exceeds its maximum: a
+/// setter changes the other limit of its pair where that is needed. Compiling a pattern overwrites
+/// what the setters stored.
 ///
-/// Threads: the setters need the object alone; everything else only reads it.
+/// Threads: const operations may run at once on one object; every other operation needs it alone.
 class MSGLIB_API NumberFormat : public Format {
 public:
     /// What a factory makes a formatter for.
@@ -48,22 +48,24 @@ public:
     /// Appends the text of `value` to `out` and returns `out`.
     virtual std::string& format(double value, std::string& out) const = 0;
 
-    /// Returns a new formatter by the locale's pattern for plain numbers. The caller owns it.
+    /// Returns a new formatter by the locale's pattern for plain numbers.
     ///
-    /// `locale` selects nothing: every value is the platform's for one fixed locale.
-    ///
+    /// @param locale  selects nothing: every value is the platform's for one fixed locale
     /// @throws std::runtime_error as `DecimalFormat::applyPattern` does, if the platform's values
-    /// make no pattern
+    ///         make no pattern
+    ///
+    ///     getNumberInstance(locale) with 1234.5 -> "1,234.50"
     static NumberFormat* getNumberInstance(const std::locale& locale);
 
-    /// The same for whole numbers. A value that isn't whole is rounded, unless the platform has no
-    /// values for the locale: the pattern is "#,##0.###" then.
+    /// Returns a new formatter of whole numbers, as `getNumberInstance` does. A value that isn't
+    /// whole is rounded, unless the platform doesn't know the locale: the pattern is then
+    /// "#,##0.###".
     static NumberFormat* getIntegerInstance(const std::locale& locale);
 
-    /// The same for amounts in the locale's currency.
+    /// Returns a new formatter of amounts in the locale's currency, as `getNumberInstance` does.
     static NumberFormat* getCurrencyInstance(const std::locale& locale);
 
-    /// The same for percentages: 0.25 reads "25.00%" where the locale has two decimals.
+    /// Returns a new formatter of percentages, as `getNumberInstance` does: 0.25 becomes "25.00%".
     static NumberFormat* getPercentInstance(const std::locale& locale);
 
     /// Returns whether a separator stands between groups of integer digits.
@@ -78,7 +80,7 @@ public:
     /// Returns how many fraction digits are always written.
     int getMinimumFractionDigits() const { return minimumFractionDigits_; }
 
-    /// Returns how many integer digits are always written, zeros in front.
+    /// Returns how many integer digits are always written, with leading zeros.
     int getMinimumIntegerDigits() const { return minimumIntegerDigits_; }
 
     /// Switches grouping. The group size is the pattern's.

@@ -12,24 +12,37 @@ class TextOutput;
 
 /// Writes a point in time by a pattern such as "yyyy-MM-dd HH:mm:ss".
 ///
-/// A run of one letter of "dMyg" (day, month, year, era) or "hHmst" (hour of 12, hour of 24,
-/// minute, second, marker) is a field, whose form its length decides: "d", "dd", "ddd" and "dddd"
-/// are "1", "01", "Thu" and "Thursday". Text between apostrophes stands as it is, and so does every
-/// other byte; "''" is an apostrophe inside quoted text, and nothing outside it. A pattern can't be
-/// wrong: an apostrophe without a partner quotes the rest.
+///     pattern = { run | "'" text "'" | other }
+///     run     = one letter of d M y g h H m s t, any number of times
 ///
-/// A point in time is a count of whole seconds since 1970-01-01 00:00:00, and the fields are those
-/// of that count, as in UTC. From year 1601 to 30827 there is a field for it; outside, fields are
-/// left out and the other text stands.
+/// | Letter | Field       | Forms, by the length of the run                     |
+/// |--------|-------------|-----------------------------------------------------|
+/// | d      | day         | d "1", dd "01", ddd "Thu", dddd "Thursday"          |
+/// | M      | month       | M "1", MM "01", MMM "Jan", MMMM "January"           |
+/// | y      | year        | y "0", yy "70", yyyy "1970"                         |
+/// | g      | era         | g "A.D."                                            |
+/// | h, H   | hour        | h "1", hh "01" of 12 hours; H, HH of 24 hours       |
+/// | m      | minute      | m "5", mm "05"                                      |
+/// | s      | second      | s "5", ss "05"                                      |
+/// | t      | marker      | t "A", tt "AM"                                      |
 ///
-/// Assignment and `applyPattern` need the object alone; `format` only reads it.
+/// Text between apostrophes and every other byte are appended as they are. "''" is an apostrophe
+/// inside quoted text, and nothing outside it. No pattern is wrong: an apostrophe without a partner
+/// quotes the rest.
+///
+/// A point in time is a count of whole seconds since 1970-01-01 00:00:00. The fields are those of
+/// that count in UTC. For a count outside the years 1601 to 30827 the fields are left out.
+///
+/// Rendering takes time linear in the pattern. A run appends 9 bytes at most.
+///
+/// Threads: const operations may run at once on one object; every other operation needs it alone.
 class MSGLIB_API SimpleDateFormat : public DateFormat {
 public:
     /// Keeps `pattern` and `locale`. The locale selects nothing: month names and the like are those
     /// of one fixed locale.
     SimpleDateFormat(const std::string& pattern, const std::locale& locale);
 
-    /// The same with a pattern that the caller gives away.
+    /// Keeps `pattern`, moved into the object, and `locale`.
     SimpleDateFormat(std::string&& pattern, const std::locale& locale);
 
     SimpleDateFormat(const SimpleDateFormat& other);
@@ -45,8 +58,8 @@ public:
     /// fraction of a `float` or `double` is cut off towards zero, and an `unsigned long long` with
     /// the top bit set counts as negative.
     ///
-    ///     "yyyy-MM-dd HH:mm:ss"    1000000000 -> "2001-09-09 01:46:40"    -1 -> "1969-12-31
-    ///     23:59:59" "h 'o''clock'"           0 -> "12 o'clock"
+    ///     "yyyy-MM-dd HH:mm:ss"  1000000000 -> "2001-09-09 01:46:40"  -1 -> "1969-12-31 23:59:59"
+    ///     "h 'o''clock'"         0          -> "12 o'clock"
     ///
     /// @throws std::runtime_error "Invalid date argument type" for any other kind
     /// @throws std::out_of_range  for a `long` or `unsigned long` outside its 32-bit range

@@ -4,9 +4,11 @@
 
 /// Locale values, date and time pictures, and calendar arithmetic.
 ///
-/// The operations carry the names, numbers and conventions of the operating system that the library
-/// was designed for: a length counts the terminator, size 0 asks for it, and 0 is a failure with
-/// its reason in `GetLastError`. All of them may run on any number of threads.
+/// The operations have the names, numbers and conventions of the operating system that the library
+/// was designed for. A length includes the terminator, size 0 asks for the length, and the result 0
+/// is a failure, whose reason `GetLastError` returns.
+///
+/// Threads: all operations may run at once.
 namespace zem::msglib::platform {
 
 /// The locale identifier of every query: English, with no country chosen.
@@ -56,42 +58,43 @@ struct SYSTEMTIME {
 /// Writes one value of a locale, with its terminator, into the `size` bytes at `buffer`.
 ///
 /// @param lctype  one of the `LOCALE_` numbers above
-/// @return the bytes written, or needed if `size` is 0; 0 for an unknown locale (87) or value
-/// (1004),
-///         and for a buffer that is too short (122)
+/// @return the bytes written, or needed if `size` is 0; 0 for an unknown locale (87), an unknown
+///         value (1004) and a buffer that is too short (122)
 int GetLocaleInfoA(std::uint32_t locale, std::uint32_t lctype, char* buffer, int size) noexcept;
 
 /// Returns the full identifier for an incomplete one, or what it was given.
 std::uint32_t ConvertDefaultLocale(std::uint32_t locale) noexcept;
 
-/// Tells whether values of `locale` can be asked for; `flags` is `LCID_INSTALLED`.
+/// Returns whether values of `locale` can be asked for; `flags` is `LCID_INSTALLED`.
 bool IsValidLocale(std::uint32_t locale, std::uint32_t flags) noexcept;
 
-/// Writes a date by a picture: runs of `d`, `M`, `y` and `g`, text in quotes, and anything else as
-/// it stands.
+/// Writes a date by a picture: runs of `d`, `M`, `y` and `g` as fields, quoted text and any other
+/// byte as they are.
 ///
-/// The week day is computed from the date; the time of day is not looked at.
+/// The week day is computed from the date. The time of day is ignored.
 ///
 /// @param flags    0
 /// @param date     year 1601 to 30827, and a day that exists
 /// @param picture  NUL-terminated
-/// @return the bytes written with terminator, or needed if `size` is 0; 0 for a bad date (87) and
-/// for a buffer that is
-///         too short (122)
+/// @return the bytes written with terminator, or needed if `size` is 0; 0 for a wrong date (87) and
+///         a buffer that is too short (122)
 int GetDateFormatA(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* date,
                    const char* picture, char* buffer, int size) noexcept;
 
-/// The same for the time of day: runs of `h`, `H`, `m`, `s` and `t`.
+/// Writes a time of day in the same way, with runs of `h`, `H`, `m`, `s` and `t` as fields.
 ///
-/// @param time  hour to 23, minute and second to 59, milliseconds to 999; the date is not looked at
+/// @param time  hour to 23, minute and second to 59, milliseconds to 999; the date is ignored
 int GetTimeFormatA(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* time,
                    const char* picture, char* buffer, int size) noexcept;
 
-/// Turns calendar fields into a count; the week day is not looked at. False for fields that name no
-/// time (87).
+/// Converts calendar fields to a count. The week day is ignored.
+///
+/// @return false for fields that are no time (87)
 bool SystemTimeToFileTime(const SYSTEMTIME* time, FILETIME* count) noexcept;
 
-/// Turns a count into calendar fields. False from 2 to the power 63 on (87).
+/// Converts a count to calendar fields.
+///
+/// @return false from 2 to the power 63 on (87)
 bool FileTimeToSystemTime(const FILETIME* count, SYSTEMTIME* time) noexcept;
 
 } // namespace zem::msglib::platform

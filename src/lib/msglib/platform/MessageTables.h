@@ -3,12 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Finding a module by an address inside it, and fetching and converting a text of its message
-/// table.
+/// Modules found by an address inside them, and the texts of their message tables.
 ///
-/// The operations carry the names, numbers and conventions of the operating system that the library
-/// was designed for. A failure is a result of 0, with its reason in `GetLastError`. All of them may
-/// run on any number of threads.
+/// The operations have the names, numbers and conventions of the operating system that the library
+/// was designed for. The result 0 is a failure, whose reason `GetLastError` returns.
+///
+/// Threads: all operations may run at once.
 namespace zem::msglib::platform {
 
 /// A loaded module: where its image begins in memory. It owns nothing.
@@ -19,8 +19,7 @@ constexpr std::uint32_t FORMAT_MESSAGE_IGNORE_INSERTS = 0x200;
 constexpr std::uint32_t FORMAT_MESSAGE_FROM_HMODULE = 0x800;
 constexpr std::uint32_t CP_UTF8 = 65001;
 
-/// The memory that an address lies in belongs to a loaded image, as
-/// `MEMORY_BASIC_INFORMATION::Type` tells it.
+/// The value of `MEMORY_BASIC_INFORMATION::Type` for memory of a loaded image.
 constexpr std::uint32_t MEM_IMAGE = 0x1000000;
 
 /// What is known of the memory around one address.
@@ -37,8 +36,8 @@ struct MEMORY_BASIC_INFORMATION {
 
 /// Describes the memory at `address` in `information`, which has `size` bytes.
 ///
-/// Returns the bytes written. 0 means that nothing is known of the address; `information` is then
-/// unspecified.
+/// @return the bytes written; 0 if nothing is known of the address, and `information` is
+///         unspecified then
 std::size_t VirtualQuery(const void* address, MEMORY_BASIC_INFORMATION* information,
                          std::size_t size) noexcept;
 
@@ -49,14 +48,12 @@ std::size_t VirtualQuery(const void* address, MEMORY_BASIC_INFORMATION* informat
 /// @param module      a module found by `VirtualQuery`, still loaded
 /// @param messageId   the whole identifier
 /// @param languageId  the only language asked for
-/// @param buffer      the address of a `char16_t*`, passed as if it were the buffer itself; it
-/// receives a new
-///                    NUL-terminated text, to be released by `LocalFree`
+/// @param buffer      the address of a `char16_t*`, passed as if it were the buffer itself; the
+///                    pointer is set to a new NUL-terminated text, to be released by `LocalFree`
 /// @param size        0
 /// @param arguments   null
 /// @return the UTF-16 units of the text without its terminator; 0 if the module has no such
-/// message, or an empty one,
-///         or if memory has run out
+///         message, if that is empty, and if memory has run out
 std::uint32_t FormatMessageW(std::uint32_t flags, HMODULE module, std::uint32_t messageId,
                              std::uint32_t languageId, char16_t* buffer, std::uint32_t size,
                              void* arguments) noexcept;
@@ -71,7 +68,7 @@ int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t flags, const char1
                         int count, char* output, int size, const char* defaultCharacter,
                         bool* usedDefaultCharacter) noexcept;
 
-/// Releases what `FormatMessageW` has allocated; null is allowed.
+/// Releases what `FormatMessageW` allocated; null is allowed.
 void LocalFree(void* memory) noexcept;
 
 } // namespace zem::msglib::platform

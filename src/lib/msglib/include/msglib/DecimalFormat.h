@@ -22,8 +22,8 @@ namespace zem::msglib {
 /// - A "0" is a digit that is always written, a "#" one that is written unless it is a zero at the
 ///   start of an integer or at the end of a fraction. A "#" of the exponent has no effect.
 /// - A "," separates groups. Their size is the number of marks after the last ",".
-/// - In an affix, "''" is one apostrophe. An apostrophe, any byte and an apostrophe are that byte as
-///   plain text.
+/// - In an affix, "''" is one apostrophe. An apostrophe, any byte and an apostrophe are that byte
+///   as plain text.
 /// - The byte 0xA4 in an affix is the local currency symbol, twice in a row the international one.
 ///   Either selects the monetary separators.
 /// - A "%" in a suffix multiplies by 100.

@@ -9,19 +9,18 @@ namespace zem::msglib::platform {
 
 /// The text of one message where it lies in its table, as UTF-16 units, or none.
 ///
-/// It ends before the first NUL, or where its entry ends. It is two words, which functions hand on
-/// without memory.
+/// It ends before the first NUL, or where its entry ends. It is small enough to be returned in
+/// registers.
 class MessageText {
 public:
-    /// Makes no text.
+    /// Makes an empty text, which stands for none.
     constexpr MessageText() noexcept = default;
 
-    /// @param bytes      the text of an entry, at most 65,535 bytes, without the header of the
-    /// entry
+    /// @param bytes      the text of an entry without its header, at most 65,535 bytes
     /// @param unitBytes  2 for UTF-16, 1 for bytes that are code points themselves
     MessageText(Bytes bytes, std::uint32_t unitBytes) noexcept;
 
-    /// Tells whether there is no text; a message without any unit is none.
+    /// Returns whether there is no text. A message without any unit counts as none.
     bool isEmpty() const noexcept { return length_ == 0; }
 
     std::size_t length() const noexcept { return length_; }
@@ -42,21 +41,23 @@ private:
 
 /// Reads a compiled message table.
 ///
-///     table  = count block* entry*            count: u32
-///     block  = lowest highest offset          u32 each; blocks ascend, offset counts from the
-///     table's first byte entry  = length flags text              u16 each; length includes this
-///     header, flags 1 means UTF-16
+///     table = count block* entry*      count: u32
+///     block = lowest highest offset    u32 each; blocks ascend
+///     entry = length flags text        u16 each; flags 1 means UTF-16
 ///
-/// A block names the identifiers from lowest to highest and the first of their entries; the others
-/// follow it without a gap. Any bytes may be handed in: a table that is damaged lacks messages or
-/// has other texts, and nothing outside it is read.
+/// A block covers the identifiers from lowest to highest. Its offset counts from the first byte of
+/// the table to the entry of the lowest; the other entries follow without a gap. The length of an
+/// entry includes its header.
+///
+/// Any bytes are allowed: a damaged table lacks messages or has other texts, and nothing outside it
+/// is read.
 class TableReader {
 public:
     explicit TableReader(Bytes table) noexcept : table_(table) {}
 
     /// Returns the text of `messageId`, if there is one.
     ///
-    /// Takes a binary search over the blocks and a walk inside one of them.
+    /// Takes a binary search over the blocks and a linear one inside a block.
     MessageText find(std::uint32_t messageId) const noexcept;
 
 private:

@@ -19,6 +19,10 @@ function(msglib_add_catalogue target file)
     if(NOT EXISTS "${file}")
         message(FATAL_ERROR "msglib_add_catalogue: no such file: ${file}")
     endif()
+    if(NOT TARGET msglib::msgtable)
+        message(FATAL_ERROR "msglib_add_catalogue: the compiler of catalogues is missing; Debian has it in the package "
+            "msglib-tools. Its path can be given in MSGLIB_TOOL.")
+    endif()
     find_program(MSGLIB_WINDMC NAMES x86_64-w64-mingw32-windmc windmc
         DOC "Message compiler of the GNU binary utilities")
     if(NOT MSGLIB_WINDMC)

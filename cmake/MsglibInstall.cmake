@@ -4,9 +4,8 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# The catalogue compiler: its target, and the program that it makes. It is exported as msglib::<target>.
-set(tool msgtable)
-set(tool_program msgtable)
+# The target of the program that compiles catalogues.
+set(MSGLIB_TOOL_TARGET msgtable)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/msglib)
 
@@ -24,8 +23,8 @@ install(DIRECTORY src/lib/msglib/include/ src/lib/geom/include/
 
 # Exported apart from the library, so that either works without the other. A program of the build's own system has no place
 # in the prefix of another one.
-if(NOT CMAKE_CROSSCOMPILING)
-    install(TARGETS ${tool} EXPORT msglibToolTargets RUNTIME COMPONENT Tools)
+if(TARGET ${MSGLIB_TOOL_TARGET} AND NOT CMAKE_CROSSCOMPILING)
+    install(TARGETS ${MSGLIB_TOOL_TARGET} EXPORT msglibToolTargets RUNTIME COMPONENT Tools)
     install(EXPORT msglibToolTargets NAMESPACE msglib:: DESTINATION ${package_dir} COMPONENT Tools)
 endif()
 

@@ -19,6 +19,9 @@ function(msglib_add_catalogue target file)
     if(NOT EXISTS "${file}")
         message(FATAL_ERROR "msglib_add_catalogue: no such file: ${file}")
     endif()
+    if(NOT TARGET msglib::msgtable)
+        _msglib_find_tool()
+    endif()
     find_program(MSGLIB_WINDMC NAMES x86_64-w64-mingw32-windmc windmc
         DOC "Message compiler of the GNU binary utilities")
     if(NOT MSGLIB_WINDMC)
@@ -45,6 +48,17 @@ function(msglib_add_catalogue target file)
     else()
         _msglib_embed_in_elf(${target} "${folder}" "${name}")
     endif()
+endfunction()
+
+# Finds the program that compiles catalogues where neither the build nor the installed library has one.
+function(_msglib_find_tool)
+    find_program(MSGLIB_TOOL NAMES msgtable DOC "The program that compiles message catalogues")
+    if(NOT MSGLIB_TOOL)
+        message(FATAL_ERROR "msglib_add_catalogue: the program msgtable is missing; Debian has it in the package "
+            "msglib-tools. Its path can be given in MSGLIB_TOOL.")
+    endif()
+    add_executable(msglib::msgtable IMPORTED GLOBAL)
+    set_target_properties(msglib::msgtable PROPERTIES IMPORTED_LOCATION "${MSGLIB_TOOL}")
 endfunction()
 
 # Makes <name>.h, <name>.cpp and <name>.bin in `folder`.

@@ -4,6 +4,18 @@ include_guard(GLOBAL)
 include(MsglibArithmetic)
 include(MsglibHardening)
 
+# What is built holds no path of the folder that it is built in, so that it can be made again bit for bit. A debugger of the
+# configuration Debug finds the sources by their whole paths.
+set(MSGLIB_PATH_OPTIONS)
+foreach(map ${PROJECT_SOURCE_DIR}=. ${PROJECT_BINARY_DIR}=build)
+    list(APPEND MSGLIB_PATH_OPTIONS $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${map}>)
+endforeach()
+# GNU's link-time optimiser writes debug information of its own, and can't be given a path with blanks or quotes.
+set(MSGLIB_PATH_LINK_OPTIONS)
+if(NOT "${PROJECT_SOURCE_DIR}${PROJECT_BINARY_DIR}" MATCHES "[ '\"]")
+    set(MSGLIB_PATH_LINK_OPTIONS ${MSGLIB_PATH_OPTIONS})
+endif()
+
 # Lets the linker optimise the shared library as a whole in release builds. A static one stays readable for any compiler.
 include(CheckIPOSupported)
 check_ipo_supported(RESULT MSGLIB_LINK_TIME_OPTIMISATION OUTPUT ignored LANGUAGES CXX)
@@ -18,8 +30,9 @@ function(msglib_own_target target)
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         $<$<BOOL:${MSGLIB_WERROR}>:-Werror>
         ${MSGLIB_ARITHMETIC_OPTIONS}
+        ${MSGLIB_PATH_OPTIONS}
         ${MSGLIB_HARDENING_COMPILE_OPTIONS})
-    target_link_options(${target} PRIVATE ${MSGLIB_HARDENING_LINK_OPTIONS})
+    target_link_options(${target} PRIVATE ${MSGLIB_PATH_LINK_OPTIONS} ${MSGLIB_HARDENING_LINK_OPTIONS})
     if(MSGLIB_SANITIZE)
         target_compile_options(${target} PRIVATE
             -fsanitize=${MSGLIB_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,45 +1,41 @@
-# The install rules: library, headers, the host tool for catalogues, and what find_package and pkg-config read.
+# The install rules, in three components: Runtime, the shared library; Development, all that it takes to compile and link
+# with the library; Tools, the program that compiles catalogues, which serves any target system.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# The target of the program that compiles catalogues.
+set(MSGLIB_TOOL_TARGET msgtable)
+
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/msglib)
 
-install(TARGETS geom EXPORT geomTargets)
-install(TARGETS msglib EXPORT msglibTargets)
-if(CMAKE_CROSSCOMPILING)
-    install(PROGRAMS $<TARGET_FILE:msgtable> DESTINATION ${CMAKE_INSTALL_BINDIR})
-else()
-    install(TARGETS msgtable EXPORT msglibTargets)
-endif()
-install(EXPORT geomTargets NAMESPACE zem:: DESTINATION ${package_dir})
-install(EXPORT msglibTargets NAMESPACE msglib:: DESTINATION ${package_dir})
+install(TARGETS geom EXPORT geomTargets
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS msglib EXPORT msglibTargets
+    RUNTIME COMPONENT Runtime
+    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+    ARCHIVE COMPONENT Development
+    INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(EXPORT geomTargets NAMESPACE zem:: DESTINATION ${package_dir} COMPONENT Development)
+install(EXPORT msglibTargets NAMESPACE msglib:: DESTINATION ${package_dir} COMPONENT Development)
 install(DIRECTORY src/lib/msglib/include/ src/lib/geom/include/
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN *.h)
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development FILES_MATCHING PATTERN *.h)
+
+# Exported apart from the library, so that either works without the other. A program of the build's own system has no place
+# in the prefix of another one.
+if(TARGET ${MSGLIB_TOOL_TARGET} AND NOT CMAKE_CROSSCOMPILING)
+    install(TARGETS ${MSGLIB_TOOL_TARGET} EXPORT msglibToolTargets RUNTIME COMPONENT Tools)
+    install(EXPORT msglibToolTargets NAMESPACE msglib:: DESTINATION ${package_dir} COMPONENT Tools)
+endif()
 
 configure_package_config_file(cmake/msglibConfig.cmake.in
     ${CMAKE_CURRENT_BINARY_DIR}/msglibConfig.cmake INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/msglibConfigVersion.cmake
-    COMPATIBILITY SameMinorVersion)
+    COMPATIBILITY SameMajorVersion)
 install(FILES
     ${CMAKE_CURRENT_BINARY_DIR}/msglibConfig.cmake
     ${CMAKE_CURRENT_BINARY_DIR}/msglibConfigVersion.cmake
     cmake/MsglibCatalogue.cmake
-    DESTINATION ${package_dir})
+    DESTINATION ${package_dir} COMPONENT Development)
 
-# Relative to the .pc file, so that the installed tree can be moved.
-file(RELATIVE_PATH pc_prefix
-    ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
-file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
-file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
-get_target_property(type msglib TYPE)
-if(type STREQUAL "STATIC_LIBRARY")
-    set(pc_cflags -DMSGLIB_STATIC)
-endif()
-get_target_property(pc_link_options msglib INTERFACE_LINK_OPTIONS)
-if(NOT pc_link_options)
-    set(pc_link_options)
-endif()
-configure_file(cmake/msglib.pc.in ${CMAKE_CURRENT_BINARY_DIR}/msglib.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/msglib.pc
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+include(MsglibPkgConfig)

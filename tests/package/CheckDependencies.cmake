@@ -1,6 +1,6 @@
 # Fails if LIBRARY needs another library than those of the C++ run time and the system itself.
 
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 execute_process(COMMAND ${OBJDUMP} --private-headers ${LIBRARY}
     OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "(NEEDED +|DLL Name: )[^\n]+" lines "${output}")

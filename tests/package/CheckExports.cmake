@@ -1,7 +1,7 @@
 # Fails if LIBRARY exports a symbol that is no member, virtual table or type information of one of CLASSES, comma-separated,
 # and no output operator of the stream, or if it exports nothing of one of them.
 
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 string(REPLACE "," ";" classes "${CLASSES}")
 if(LIBRARY MATCHES "\\.dll$")
     execute_process(COMMAND ${OBJDUMP} --private-headers ${LIBRARY} COMMAND ${CXXFILT}

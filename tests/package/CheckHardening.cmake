@@ -1,7 +1,7 @@
 # Fails if LIBRARY lacks a protection that MSGLIB_HARDENING gives it. BRANCH_TRACKING tells whether the compiler has
 # control-flow protection.
 
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 
 # Fails unless the output of a command, the arguments behind the pattern, shows the protection.
 function(expect protection pattern)

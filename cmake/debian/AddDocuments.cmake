@@ -1,0 +1,22 @@
+# Puts the documents that each Debian package has to have into what CPack has gathered for it.
+
+if(NOT CPACK_GENERATOR STREQUAL "DEB")
+    return()
+endif()
+
+# The time is SOURCE_DATE_EPOCH if the environment has it, so that packages can be made again bit for bit.
+string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+set(changelog "${CPACK_DEBIAN_PACKAGE_SOURCE} (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
+
+  * Release ${CPACK_PACKAGE_VERSION}.
+
+ -- ${CPACK_PACKAGE_CONTACT}  ${date}
+")
+
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} key)
+    set(folder ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr/share/doc/${CPACK_DEBIAN_${key}_PACKAGE_NAME})
+    file(COPY ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${folder})
+    file(WRITE ${folder}/changelog.Debian "${changelog}")
+    execute_process(COMMAND gzip -9 --no-name --force ${folder}/changelog.Debian COMMAND_ERROR_IS_FATAL ANY)
+endforeach()

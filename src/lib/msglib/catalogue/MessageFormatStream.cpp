@@ -64,7 +64,7 @@ std::string MessageFormatStream::toString() const {
 
 MessageFormatStream& MessageFormatStream::append(const MessageFormatStream& other) {
     if (this == &other) {
-        toString();
+        impl_->text_ += impl_->rendered();
         return *this;
     }
     // Whatever fails comes before the first change.

@@ -21,7 +21,7 @@ Field countAs(std::size_t marks) {
 
 } // namespace
 
-const std::string DecimalFormat::patternChars_(".,#0E;%\xA4");
+constexpr std::string_view DecimalFormat::patternChars_ = ".,#0E;%\xA4";
 
 DecimalFormat::DecimalFormat(const std::string& pattern, const DecimalFormatSymbols& symbols)
     : symbols_(symbols) {
@@ -108,7 +108,7 @@ std::size_t DecimalFormat::parseStatic(const std::string& pattern, std::size_t p
             multiplier_ = 100;
             text.push_back(c);
             ++pos;
-        } else if (patternChars_.find(c) != std::string::npos) {
+        } else if (patternChars_.find(c) != std::string_view::npos) {
             return pos;
         } else {
             text.push_back(c);

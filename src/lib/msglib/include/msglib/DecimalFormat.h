@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib {
 
@@ -103,7 +104,7 @@ private:
     long long scaleToExponent(double& x) const;
     void appendExponent(long long exponent, TextOutput& out) const;
 
-    static const std::string patternChars_;
+    static const std::string_view patternChars_;
 
     DecimalFormatSymbols symbols_;
     std::string negativePrefix_;

@@ -65,6 +65,10 @@ SimpleDateFormat::SimpleDateFormat(std::string&& pattern, const std::locale& loc
     : pattern_(std::move(pattern)),
       locale_(locale) {}
 
+SimpleDateFormat::SimpleDateFormat(const SimpleDateFormat& other) = default;
+
+SimpleDateFormat& SimpleDateFormat::operator=(const SimpleDateFormat& other) = default;
+
 SimpleDateFormat::~SimpleDateFormat() = default;
 
 void SimpleDateFormat::applyPattern(const std::string& pattern) {

@@ -10,9 +10,18 @@
 
 namespace zem::msglib {
 
+struct ChoiceFormat::ChoiceEntry {
+    double limit;
+    std::string text;
+};
+
 ChoiceFormat::ChoiceFormat(const std::string& pattern) {
     applyPattern(pattern);
 }
+
+ChoiceFormat::ChoiceFormat(const ChoiceFormat& other) = default;
+
+ChoiceFormat& ChoiceFormat::operator=(const ChoiceFormat& other) = default;
 
 ChoiceFormat::~ChoiceFormat() = default;
 

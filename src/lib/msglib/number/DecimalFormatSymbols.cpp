@@ -28,4 +28,15 @@ DecimalFormatSymbols::DecimalFormatSymbols(const std::locale&) {
     query(platform::LOCALE_SNEGATIVESIGN, minusSign_);
 }
 
+DecimalFormatSymbols::DecimalFormatSymbols(const DecimalFormatSymbols& other) = default;
+
+DecimalFormatSymbols::DecimalFormatSymbols(DecimalFormatSymbols&& other) noexcept = default;
+
+DecimalFormatSymbols& DecimalFormatSymbols::operator=(const DecimalFormatSymbols& other) = default;
+
+DecimalFormatSymbols&
+DecimalFormatSymbols::operator=(DecimalFormatSymbols&& other) noexcept = default;
+
+DecimalFormatSymbols::~DecimalFormatSymbols() = default;
+
 } // namespace zem::msglib

@@ -33,6 +33,10 @@ DecimalFormat::DecimalFormat(const std::string& pattern, DecimalFormatSymbols&& 
     applyPattern(pattern);
 }
 
+DecimalFormat::DecimalFormat(const DecimalFormat& other) = default;
+
+DecimalFormat& DecimalFormat::operator=(const DecimalFormat& other) = default;
+
 DecimalFormat::~DecimalFormat() = default;
 
 void DecimalFormat::applyPattern(const std::string& pattern) {

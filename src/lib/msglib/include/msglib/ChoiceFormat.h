@@ -32,8 +32,12 @@ public:
     /// @throws std::runtime_error as `applyPattern` does
     ChoiceFormat(const std::string& pattern);
 
-    ChoiceFormat(const ChoiceFormat&) = default;
-    ChoiceFormat& operator=(const ChoiceFormat&) = default;
+    /// Copies the limits and texts.
+    ChoiceFormat(const ChoiceFormat& other);
+
+    /// The same by assignment; to itself it changes nothing.
+    ChoiceFormat& operator=(const ChoiceFormat& other);
+
     ~ChoiceFormat() override;
 
     /// Compiles `pattern` in place of the present one.
@@ -67,10 +71,7 @@ public:
     static double nextDouble(double value, bool positive);
 
 private:
-    struct ChoiceEntry {
-        double limit;
-        std::string text;
-    };
+    struct ChoiceEntry;
 
     std::list<ChoiceEntry> choices_;
 };

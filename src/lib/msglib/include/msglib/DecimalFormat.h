@@ -40,8 +40,12 @@ public:
     /// The same with symbols that the caller gives away.
     DecimalFormat(const std::string& pattern, DecimalFormatSymbols&& symbols);
 
-    DecimalFormat(const DecimalFormat&) = default;
-    DecimalFormat& operator=(const DecimalFormat&) = default;
+    /// Copies what is compiled, the digit limits and the symbols.
+    DecimalFormat(const DecimalFormat& other);
+
+    /// The same by assignment; to itself it changes nothing.
+    DecimalFormat& operator=(const DecimalFormat& other);
+
     ~DecimalFormat() override;
 
     /// Compiles `pattern` over the present state. Only the symbols stay, even from the setters

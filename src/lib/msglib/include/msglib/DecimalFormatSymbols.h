@@ -20,11 +20,19 @@ public:
     /// own symbol at the starting value that its getter names.
     DecimalFormatSymbols(const std::locale& locale = std::locale());
 
-    DecimalFormatSymbols(const DecimalFormatSymbols&) = default;
-    DecimalFormatSymbols(DecimalFormatSymbols&&) = default;
-    DecimalFormatSymbols& operator=(const DecimalFormatSymbols&) = default;
-    DecimalFormatSymbols& operator=(DecimalFormatSymbols&&) = default;
-    ~DecimalFormatSymbols() = default;
+    /// Copies all symbols.
+    DecimalFormatSymbols(const DecimalFormatSymbols& other);
+
+    /// Takes all symbols from `other`.
+    DecimalFormatSymbols(DecimalFormatSymbols&& other) noexcept;
+
+    /// Copies all symbols; to itself it changes nothing.
+    DecimalFormatSymbols& operator=(const DecimalFormatSymbols& other);
+
+    /// Takes all symbols from `other`.
+    DecimalFormatSymbols& operator=(DecimalFormatSymbols&& other) noexcept;
+
+    ~DecimalFormatSymbols();
 
     /// The local currency symbol; starts as "$".
     std::string getCurrencySymbol() const { return currencySymbol_; }

@@ -32,8 +32,12 @@ public:
     /// The same with a pattern that the caller gives away.
     SimpleDateFormat(std::string&& pattern, const std::locale& locale);
 
-    SimpleDateFormat(const SimpleDateFormat&) = default;
-    SimpleDateFormat& operator=(const SimpleDateFormat&) = default;
+    /// Copies pattern and locale.
+    SimpleDateFormat(const SimpleDateFormat& other);
+
+    /// The same by assignment; to itself it changes nothing.
+    SimpleDateFormat& operator=(const SimpleDateFormat& other);
+
     ~SimpleDateFormat() override;
 
     /// Replaces the pattern.

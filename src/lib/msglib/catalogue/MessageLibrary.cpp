@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "message/MessageRenderer.h"
 #include "platform/MessageTables.h"
+#include "platform/Unloading.h"
 
 #include <boost/container/small_vector.hpp>
 
@@ -90,8 +91,14 @@ MessageLibrary::MessageLibrary()
 MessageLibrary::~MessageLibrary() = default;
 
 MessageLibrary& MessageLibrary::instance() {
-    static MessageLibrary library;
-    return library;
+    // A static object would be destroyed before those that are older, which may still render.
+    static MessageLibrary* const library = [] {
+        auto* const made = new MessageLibrary;
+        platform::callAtUnload([](void* object) { delete static_cast<MessageLibrary*>(object); },
+                               made);
+        return made;
+    }();
+    return *library;
 }
 
 void MessageLibrary::registerFacility(unsigned int facility, const void* address) {

@@ -44,7 +44,7 @@ public:
 /// There is one object, from the first `instance()` until the library is unloaded. Nothing is
 /// cached: each rendering fetches and compiles its text anew. Once registration is over, any number
 /// of threads may render at once.
-class MSGLIB_API MessageLibrary : public IMessageLibrary {
+class MSGLIB_API MessageLibrary final : public IMessageLibrary {
 public:
     MessageLibrary(const MessageLibrary&) = delete;
     MessageLibrary& operator=(const MessageLibrary&) = delete;

@@ -17,6 +17,26 @@ extern "C" BOOST_SYMBOL_EXPORT void renderMessage(int argument, std::string& tex
     text = (zem::msglib::MessageFormatStream(MSG_OF_MODULE) << argument).toString();
 }
 
+namespace {
+
+struct Farewell {
+    std::string* text = nullptr;
+    ~Farewell() {
+        if (text != nullptr) {
+            renderMessage(9, *text);
+        }
+    }
+};
+
+Farewell farewell;
+
+} // namespace
+
+/// Has the message rendered into `text` when the module is unloaded, by an object that is older than the message library.
+extern "C" BOOST_SYMBOL_EXPORT void renderAtUnload(std::string& text) {
+    farewell.text = &text;
+}
+
 /// Makes `argument` an angle, of the type that the module knows under this name.
 extern "C" BOOST_SYMBOL_EXPORT void holdAngle(double radians, boost::any& argument) {
     argument = zem::geom::Angle(radians);

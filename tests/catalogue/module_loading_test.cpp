@@ -22,37 +22,45 @@ std::size_t loadedModules() {
     return count;
 }
 
-std::string renderByPlugIn() {
-    const boost::dll::shared_library plugIn(PLUG_IN);
+std::string renderBy(const char* path) {
+    boost::dll::shared_library plugIn(path);
     plugIn.get<unsigned int()>("registerModule")();
     std::string text;
     plugIn.get<void(int, std::string&)>("renderMessage")(7, text);
-    return text + std::to_string(loadedModules());
+    std::string last;
+    plugIn.get<void(std::string&)>("renderAtUnload")(last);
+    const std::size_t modules = loadedModules();
+    plugIn.unload();
+    return text + last + std::to_string(modules);
 }
 
-// `modules` come with the plug-in each time, and have to go with it.
-void expectNothingLeft(std::size_t modules) {
+// `modules` come with the plug-in of `path` each time, and have to go with it.
+void expectNothingLeft(const char* path, std::size_t modules) {
     constexpr std::size_t rounds = 1000;
     const std::size_t others = loadedModules();
-    const std::string expected = "Plug-in 7\n" + std::to_string(others + modules);
+    const std::string expected = "Plug-in 7\nPlug-in 9\n" + std::to_string(others + modules);
     std::size_t held = 0;
     for (std::size_t round = 0; round < 2 * rounds; ++round) {
         if (round == rounds) {
             held = mallinfo2().uordblks;
         }
-        ASSERT_EQ(renderByPlugIn(), expected) << "round " << round;
+        ASSERT_EQ(renderBy(path), expected) << "round " << round;
         ASSERT_EQ(loadedModules(), others) << "round " << round;
     }
     EXPECT_LT(mallinfo2().uordblks, held + rounds) << "bytes are lost in each round";
 }
 
 TEST(ModuleLoading, PlugInBringsTheLibraryAndTakesItAlong) {
-    expectNothingLeft(2);
+    expectNothingLeft(PLUG_IN, 2);
 }
 
 TEST(ModuleLoading, PlugInLeavesTheLibraryLoaded) {
     const boost::dll::shared_library library(LIBRARY);
-    expectNothingLeft(1);
+    expectNothingLeft(PLUG_IN, 1);
+}
+
+TEST(ModuleLoading, PlugInHasALibraryOfItsOwn) {
+    expectNothingLeft(SELF_CONTAINED_PLUG_IN, 1);
 }
 
 } // namespace

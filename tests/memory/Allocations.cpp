@@ -7,6 +7,7 @@ namespace {
 
 std::size_t taken = 0;
 std::size_t released = 0;
+std::size_t bytes = 0;
 std::size_t untilFailure = 0; // 0: none fails
 
 } // namespace
@@ -15,6 +16,10 @@ namespace zem::msglib {
 
 std::size_t allocations() {
     return taken;
+}
+
+std::size_t allocatedBytes() {
+    return bytes;
 }
 
 std::size_t liveAllocations() {
@@ -44,6 +49,7 @@ void* operator new(std::size_t size) {
         throw std::bad_alloc();
     }
     ++taken;
+    bytes += size;
     return block;
 }
 

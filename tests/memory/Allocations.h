@@ -7,6 +7,9 @@ namespace zem::msglib {
 /// Returns how many blocks the program has taken from the heap so far.
 std::size_t allocations();
 
+/// Returns how many bytes those blocks had together.
+std::size_t allocatedBytes();
+
 /// Returns how many blocks it holds.
 std::size_t liveAllocations();
 

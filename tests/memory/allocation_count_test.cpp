@@ -1,6 +1,7 @@
 #include "Allocations.h"
 
 #include "msglib/MessageFormat.h"
+#include "msglib/MessageFormatStream.h"
 #include "msglib/MessageLibrary.h"
 
 #include <gtest/gtest.h>
@@ -60,6 +61,23 @@ TEST(AllocationCount, MessagesAtOnceNeedNoneBesideTheirText) {
         const std::size_t before = allocations();
         const std::string text = library.formatMessage(row.pattern, args);
         EXPECT_EQ(allocations() - before, 1U) << "row of line " << row.line;
+    }
+}
+
+TEST(AllocationCount, JoiningCostsWhatTheTextNeeds) {
+    constexpr std::size_t count = 1000;
+    const std::string piece(1000, 'x');
+    const MessageFormatStream other(piece.c_str());
+    for (const bool joinsItself : {false, true}) {
+        const MessageFormatStream stream(piece.c_str());
+        const std::size_t before = allocatedBytes();
+        for (std::size_t joined = 1; joined < count; ++joined) {
+            stream << (joinsItself ? stream : other);
+        }
+        const std::string text = stream.toString();
+        EXPECT_EQ(text.size(), count * piece.size());
+        EXPECT_LT(allocatedBytes() - before, 10 * text.size()) << joinsItself;
+        EXPECT_LE(text.capacity(), 2 * text.size()) << joinsItself;
     }
 }
 

@@ -1,9 +1,29 @@
-# Fails if LIBRARY runs code of its own when it is loaded: other modules may use it before that.
+# Fails if one of OBJECTS, comma-separated, or LIBRARY, if there is one, runs code of its own when it is loaded. Whatever the
+# order of a program's static objects is, the library is then ready before the first of them.
 
-cmake_minimum_required(VERSION 3.22)
-execute_process(COMMAND ${NM} ${LIBRARY} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
-string(REGEX MATCHALL "_GLOBAL__sub_I_[^\n]*" constructors "${symbols}")
-if(constructors)
-    list(JOIN constructors "\n  " constructors)
-    message(FATAL_ERROR "start-up constructors:\n  ${constructors}")
+cmake_minimum_required(VERSION 3.25)
+string(REPLACE "," ";" objects "${OBJECTS}")
+
+# Stores the size of the lists of start-up functions in `file`, as lines of hexadecimal numbers.
+function(read_start_up_lists file result)
+    execute_process(COMMAND ${OBJDUMP} --section-headers ${file}
+        OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCHALL " \\.(init_array|ctors)[.0-9]* +[0-9a-f]+" lists "${output}")
+    list(TRANSFORM lists REPLACE ".* " "0x")
+    set(${result} ${lists} PARENT_SCOPE)
+endfunction()
+
+foreach(object IN LISTS objects)
+    read_start_up_lists(${object} lists)
+    if(lists)
+        message(SEND_ERROR "runs code at start-up: ${object}")
+    endif()
+endforeach()
+
+# The C run-time library has one function in each library.
+if(LIBRARY)
+    read_start_up_lists(${LIBRARY} lists)
+    if(NOT lists EQUAL ${POINTER_SIZE})
+        message(SEND_ERROR "the library has more start-up functions than one: ${lists} bytes")
+    endif()
 endif()

@@ -3,11 +3,11 @@
 #include "base/Failure.h"
 #include "message/MessageRenderer.h"
 #include "platform/MessageTables.h"
+#include "platform/Unloading.h"
 
 #include <boost/container/small_vector.hpp>
 
 #include <cstring>
-#include <new>
 #include <stdexcept>
 
 namespace zem::msglib {
@@ -90,30 +90,15 @@ MessageLibrary::MessageLibrary()
 
 MessageLibrary::~MessageLibrary() = default;
 
-// The one library outlives all static objects, so that their destructors may render: it goes with
-// the module that it lies in, when the program ends or unloads that. In a static library on Windows
-// there is no such late moment, and the system takes the memory back.
-struct MessageLibrary::Singleton {
-    alignas(MessageLibrary) static unsigned char storage[sizeof(MessageLibrary)];
-    static MessageLibrary* library; // null until it is made
-
-    static MessageLibrary& make() { return *(library = new (storage) MessageLibrary); }
-
-#if !defined(_WIN32) || !defined(MSGLIB_STATIC)
-    [[gnu::destructor]] static void destroy() {
-        if (library != nullptr) {
-            library->~MessageLibrary();
-        }
-    }
-#endif
-};
-
-unsigned char MessageLibrary::Singleton::storage[];
-MessageLibrary* MessageLibrary::Singleton::library = nullptr;
-
 MessageLibrary& MessageLibrary::instance() {
-    static MessageLibrary& library = Singleton::make();
-    return library;
+    // A static object would be destroyed before those that are older, which may still render.
+    static MessageLibrary* const library = [] {
+        auto* const made = new MessageLibrary;
+        platform::callAtUnload([](void* object) { delete static_cast<MessageLibrary*>(object); },
+                               made);
+        return made;
+    }();
+    return *library;
 }
 
 void MessageLibrary::registerFacility(unsigned int facility, const void* address) {

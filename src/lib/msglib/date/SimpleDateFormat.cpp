@@ -54,7 +54,6 @@ std::size_t appendQuoted(std::string_view pattern, std::size_t pos, TextOutput& 
 
 } // namespace
 
-// Not inline, since a library with inline variables can't be unloaded.
 constexpr std::string_view SimpleDateFormat::datePatternChars_ = "dMyg";
 constexpr std::string_view SimpleDateFormat::timePatternChars_ = "hHmst";
 

@@ -49,7 +49,7 @@ protected:
 /// anew.
 ///
 /// Threads: const operations may run at once on one object; registering needs it alone.
-class MSGLIB_API MessageLibrary : public IMessageLibrary {
+class MSGLIB_API MessageLibrary final : public IMessageLibrary {
 public:
     MessageLibrary(const MessageLibrary&) = delete;
     MessageLibrary& operator=(const MessageLibrary&) = delete;
@@ -77,8 +77,6 @@ public:
     std::string formatMessage(unsigned int messageId, const std::list<boost::any>& args) const;
 
 private:
-    struct Singleton;
-
     MessageLibrary();
     ~MessageLibrary();
 

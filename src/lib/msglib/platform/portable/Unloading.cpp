@@ -1,0 +1,26 @@
+#include "platform/Unloading.h"
+
+#include <atomic>
+
+namespace zem::msglib::platform {
+
+namespace {
+
+void (*unloadAction)(void*) = nullptr;
+std::atomic<void*> unloadObject = nullptr;
+
+// The lowest priority that is not reserved puts it after the function that destroys static objects.
+[[gnu::destructor(101)]] void unload() {
+    if (void* const object = unloadObject.load(std::memory_order_acquire)) {
+        unloadAction(object);
+    }
+}
+
+} // namespace
+
+void callAtUnload(void (*action)(void*), void* object) noexcept {
+    unloadAction = action;
+    unloadObject.store(object, std::memory_order_release);
+}
+
+} // namespace zem::msglib::platform

@@ -1,0 +1,24 @@
+// Overwrites the memory that a program gives back, so that whoever reads it later reads nonsense.
+
+#include <algorithm>
+#include <cstdlib>
+#include <new>
+
+void* operator new(std::size_t size) {
+    if (void* const block = std::malloc(size == 0 ? 1 : size)) {
+        return block;
+    }
+    throw std::bad_alloc();
+}
+
+void operator delete(void* block) noexcept {
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t size) noexcept {
+    if (block != nullptr) {
+        // Plain bytes would not be written, since nobody may read them.
+        std::fill_n(static_cast<volatile unsigned char*>(block), size, 0xDD);
+    }
+    std::free(block);
+}

@@ -17,14 +17,6 @@ namespace zem::msglib::tool {
 
 namespace {
 
-bool isIdentifier(std::string_view text) {
-    const auto isDigit = [](char byte) { return byte >= '0' && byte <= '9'; };
-    return !isDigit(text.front()) && std::all_of(text.begin(), text.end(), [&](char byte) {
-        const bool isLetter = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-        return isLetter || isDigit(byte) || byte == '_';
-    });
-}
-
 class CatalogueReader {
 public:
     CatalogueReader(const SourceFile& source, Diagnostics& diagnostics)

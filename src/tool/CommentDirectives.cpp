@@ -9,7 +9,14 @@ namespace {
 constexpr std::string_view separators = " \t,";
 constexpr std::string_view name = "msglib:";
 
-/// Takes blanks, and then the bytes up to the next ones; empty at the end.
+} // namespace
+
+Place contentOf(Place comment) {
+    const std::string_view text = comment.text();
+    const std::size_t begin = std::min(text.find_first_not_of("; \t/"), text.size());
+    return {comment.file, comment.offset + begin, comment.length - begin};
+}
+
 Place takeWord(Place& rest) {
     const std::string_view text = rest.text();
     const std::size_t begin = std::min(text.find_first_not_of(separators), text.size());
@@ -19,22 +26,19 @@ Place takeWord(Place& rest) {
     return word;
 }
 
-} // namespace
-
 CommentDirective readDirective(Place comment) {
-    const std::string_view text = comment.text();
-    const std::size_t begin = std::min(text.find_first_not_of("; \t/"), text.size());
-    if (text.substr(begin, name.size()) != name) {
+    Place rest = contentOf(comment);
+    if (rest.text().substr(0, name.size()) != name) {
         return {{comment.file, comment.offset, 0}, {}};
     }
-    const std::size_t after = begin + name.size();
-    Place rest{comment.file, comment.offset + after, text.size() - after};
+    const Place start{rest.file, rest.offset, name.size()};
+    rest = {rest.file, start.end(), rest.length - start.length};
     CommentDirective directive{takeWord(rest), {}};
     for (Place word = takeWord(rest); word.length > 0; word = takeWord(rest)) {
         directive.arguments.push_back(word);
     }
     if (directive.verb.length == 0) { // nothing but the name: a directive all the same
-        directive.verb = {comment.file, comment.offset + begin, name.size()};
+        directive.verb = start;
     }
     return directive;
 }

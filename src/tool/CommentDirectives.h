@@ -22,4 +22,10 @@ struct CommentDirective {
 /// @param comment  from its ";" to the end of its line
 CommentDirective readDirective(Place comment);
 
+/// Returns what a comment says: all but its ";", and a "//" after that.
+Place contentOf(Place comment);
+
+/// Takes blanks and commas, and then the word up to the next ones; empty at the end.
+Place takeWord(Place& rest);
+
 } // namespace zem::msglib::tool

@@ -1,3 +1,5 @@
+#include "CallSignatures.h"
+#include "CallsHeader.h"
 #include "CannotRun.h"
 #include "CatalogueReader.h"
 #include "CatalogueRules.h"
@@ -5,15 +7,20 @@
 #include "DiagnosticOptions.h"
 #include "GeneratedSources.h"
 #include "MessageTable.h"
+#include "Names.h"
 #include "OutputFiles.h"
+#include "ReservedNames.h"
 #include "Unicode.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zem::msglib::tool {
@@ -25,36 +32,83 @@ struct CompileOptions {
     std::string output;
     std::string format = "elf";
     std::string encoding;
+    std::vector<std::string> namespaces; ///< each as `catalogue=namespace`
     DiagnosticOptions diagnostics;
 };
 
+/// Tells whether a text is one or more names of C++ with "::" between them.
+bool isNamespace(std::string_view text) {
+    const std::size_t end = std::min(text.find("::"), text.size());
+    return isIdentifier(text.substr(0, end)) && !isKeywordOfCpp(text.substr(0, end)) &&
+           (end == text.size() || isNamespace(text.substr(end + 2)));
+}
+
+/// Reads the namespaces of typed calls that the command line names, by their catalogues.
+std::map<std::string, std::string> readNamespaces(const std::vector<std::string>& entries) {
+    std::map<std::string, std::string> namespaces;
+    for (const std::string& entry : entries) {
+        const std::size_t equals = entry.find('=');
+        if (equals == std::string::npos || !isNamespace(entry.substr(equals + 1))) {
+            throw CannotRun("--namespace: write CATALOGUE=NAMESPACE instead of " + entry);
+        }
+        namespaces[entry.substr(0, equals)] = entry.substr(equals + 1);
+    }
+    return namespaces;
+}
+
+bool isPlain(const std::string& name) {
+    return validUtf8Length(name) == name.size() &&
+           std::none_of(name.begin(), name.end(), [](char byte) {
+               return static_cast<unsigned char>(byte) < 0x20 || byte == '"' || byte == '\\' ||
+                      byte == 0x7F;
+           });
+}
+
 /// Refuses catalogues whose generated files or functions would have one name, and names that
 /// cannot stand in a source.
-std::vector<CatalogueName> namesOf(const std::vector<std::string>& files) {
+std::vector<CatalogueName> namesOf(const CompileOptions& options) {
+    auto namespaces = readNamespaces(options.namespaces);
     std::vector<CatalogueName> names;
-    std::set<std::string> stems;
+    std::set<std::string> headers;
     std::set<std::string> registrations;
-    for (const std::string& file : files) {
-        const CatalogueName name(file);
-        const bool isPlain = validUtf8Length(name.file) == name.file.size() &&
-                             std::none_of(name.file.begin(), name.file.end(), [](char byte) {
-                                 return static_cast<unsigned char>(byte) < 0x20 || byte == '"' ||
-                                        byte == '\\' || byte == 0x7F;
-                             });
-        if (!isPlain) {
+    for (const std::string& file : options.files) {
+        CatalogueName name(file);
+        if (!isPlain(name.file)) {
             throw CannotRun(file + ": a header cannot have the name of this file");
         }
-        if (!stems.insert(name.stem).second || !registrations.insert(name.registration).second) {
+        if (!headers.insert(name.stem).second || !headers.insert(name.stem + "Calls").second ||
+            !registrations.insert(name.registration).second) {
             throw CannotRun(file + ": another catalogue has the name " + name.stem +
-                            ", or one too similar for the function " + name.registration);
+                            ", or one too similar for the headers or the function " +
+                            name.registration);
         }
-        names.push_back(name);
+        if (const auto chosen = namespaces.extract(name.stem)) {
+            name.calls = chosen.mapped();
+        }
+        names.push_back(std::move(name));
+    }
+    if (!namespaces.empty()) {
+        throw CannotRun("--namespace: there is no catalogue " + namespaces.begin()->first);
     }
     return names;
 }
 
+/// Refuses symbols that are the outermost namespace of the typed calls too.
+void checkNamespace(const CatalogueName& name, const std::vector<CallSignature>& calls) {
+    const std::string_view space = std::string_view(name.calls).substr(0, name.calls.find("::"));
+    for (const CallSignature& call : calls) {
+        if (call.symbol == space) {
+            throw CannotRun(name.file + ": the symbolic name " + std::string(space) +
+                            " is the namespace of the typed calls too; name another one by "
+                            "--namespace " +
+                            name.stem + "=NAMESPACE");
+        }
+    }
+}
+
 OutputFiles outputsOf(const CompileOptions& options, const std::vector<CatalogueName>& names,
-                      const std::vector<Catalogue>& catalogues) {
+                      const std::vector<Catalogue>& catalogues,
+                      const std::vector<std::vector<CallSignature>>& calls) {
     const bool isForElf = options.format == "elf";
     OutputFiles outputs(options.output);
     std::vector<const Catalogue*> all;
@@ -63,6 +117,7 @@ OutputFiles outputsOf(const CompileOptions& options, const std::vector<Catalogue
         const CatalogueName& name = names[index];
         const Tables embedded = isForElf ? compileTables({&catalogue}, shortBlock) : Tables();
         outputs.add(name.stem + ".h", headerText(name, catalogue));
+        outputs.add(name.stem + "Calls.h", callsHeaderText(name, calls[index]));
         outputs.add(name.stem + ".cpp", sourceText(name, catalogue, embedded));
         all.push_back(&catalogue);
     }
@@ -77,16 +132,21 @@ OutputFiles outputsOf(const CompileOptions& options, const std::vector<Catalogue
 }
 
 ExitStatus compile(const CompileOptions& options) {
-    const auto names = namesOf(options.files);
+    const auto names = namesOf(options);
     Diagnostics diagnostics(options.diagnostics.policy());
     const auto catalogues = readCatalogues(options.files, options.encoding, diagnostics);
     checkIdentifiers(catalogues, diagnostics);
+    std::vector<std::vector<CallSignature>> calls;
+    for (std::size_t index = 0; index < catalogues.size(); ++index) {
+        calls.push_back(readSignatures(catalogues[index], diagnostics));
+        checkNamespace(names[index], calls.back());
+    }
     const auto found = diagnostics.take();
     options.diagnostics.write(found);
     if (hasErrors(found)) {
         return ExitStatus::errors;
     }
-    outputsOf(options, names, catalogues).write();
+    outputsOf(options, names, catalogues, calls).write();
     return ExitStatus::success;
 }
 
@@ -111,11 +171,18 @@ void addCompileCommand(CLI::App& program, Command& chosen) {
         .add_option("--encoding", options->encoding,
                     "Encoding of files that are neither UTF-8 nor UTF-16, as iconv names it")
         ->type_name("NAME");
+    command
+        .add_option("--namespace", options->namespaces,
+                    "Namespace of a catalogue's typed calls, as in App=app::messages; without it "
+                    "the catalogue's name in upper camel case")
+        ->type_name("CATALOGUE=NAMESPACE")
+        ->allow_extra_args(false);
     options->diagnostics.addTo(command, "--diagnostics");
-    command.footer("Examples:\n"
-                   "  msglib compile App.mc --output .              writes App.h and App.cpp\n"
-                   "  msglib compile A.mc B.mc --output gen --deny warnings\n"
-                   "  msglib compile Alt.mc --output . --encoding CP1252");
+    command.footer(
+        "Examples:\n"
+        "  msglib compile App.mc --output .              writes App.h, AppCalls.h and App.cpp\n"
+        "  msglib compile A.mc B.mc --output gen --deny warnings\n"
+        "  msglib compile Alt.mc --output . --encoding CP1252");
     command.callback([options, &chosen] { chosen = [options] { return compile(*options); }; });
 }
 

@@ -58,6 +58,11 @@ std::string camelCase(std::string_view name) {
     return result.empty() ? "Messages" : result;
 }
 
+/// Returns `name`, or a longer one if it begins with a digit.
+std::string namespaceName(const std::string& name) {
+    return (std::isdigit(static_cast<unsigned char>(name.front())) != 0 ? "Messages" : "") + name;
+}
+
 std::string origin(const CatalogueName& name) {
     return "// Generated from " + name.file + ": edit that file, not this one.\n";
 }
@@ -117,7 +122,8 @@ void appendNote(std::string& out, std::uint32_t language, const std::string& tab
 CatalogueName::CatalogueName(const std::string& path)
     : file(std::filesystem::path(path).filename().string()),
       stem(std::filesystem::path(path).stem().string()),
-      registration("register" + camelCase(stem)) {}
+      registration("register" + camelCase(stem)),
+      calls(namespaceName(camelCase(stem))) {}
 
 std::string headerText(const CatalogueName& name, const Catalogue& catalogue) {
     std::string out = origin(name) + "#pragma once\n\n";

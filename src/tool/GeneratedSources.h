@@ -19,6 +19,8 @@ struct CatalogueName {
     std::string file;         ///< the name of the message text file, without folders
     std::string stem;         ///< the same without its last ending: the name of header and source
     std::string registration; ///< the function's name: register and the stem in upper camel case
+    std::string
+        calls; ///< the namespace of typed calls: the stem in upper camel case, if no other is given
 };
 
 /// Returns the header of a catalogue: its identifiers as constants, and its registration function.

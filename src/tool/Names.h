@@ -15,6 +15,12 @@ std::string lowerCase(std::string_view text);
 /// Tells whether two texts agree but for the case of ASCII letters.
 bool equalInAnyCase(std::string_view one, std::string_view other) noexcept;
 
+/// Returns a text without the blanks at its start and end.
+std::string_view trimmed(std::string_view text);
+
+/// Tells whether a text has the form of a name in C++, of ASCII characters.
+bool isIdentifier(std::string_view text);
+
 /// Returns the candidate that a wrong word is probably meant to be: the one that the fewest
 /// insertions, deletions and replacements of characters lead to, in any case. None if that takes
 /// more than a third of the word, and at least one.

@@ -43,7 +43,8 @@ extern const Rule facilityClash;
 extern const Rule reservedSymbol;
 extern const Rule languageUnused;
 
-// Allowances in comments.
+// Comments.
+extern const Rule argumentAnnotation;
 extern const Rule unusedAllow;
 
 } // namespace rules

@@ -66,6 +66,20 @@ const Rule languageUnused = {
     "Messages are looked up in language 0x409 only. The texts of a file without that language are "
     "never found."};
 
+const Rule argumentAnnotation = {
+    "argument-annotation", Severity::warning, true,
+    "a comment about an argument that does not fit the message",
+    "A comment `; // @arg 0 files number How many were copied` names an argument for the typed "
+    "call "
+    "of the\n"
+    "message that follows. It has to name an argument that the text in English (United States) "
+    "has, "
+    "and a\n"
+    "kind that agrees with how that text uses it: `number` and `time` where it is used so, any of "
+    "`text`,\n"
+    "`number`, `time` and `any` where it is only shown. Where the comment is wrong, the text "
+    "decides."};
+
 const Rule unusedAllow = {
     "unused-allow", Severity::warning, true, "an allowance that silences nothing",
     "A comment `; // msglib: allow RULE` before a message silences that rule there. Without a "
@@ -78,7 +92,8 @@ const std::vector<const Rule*>& allRules() {
     static const std::vector<const Rule*> all = {
         &rules::fileEncoding,   &rules::fileSyntax,      &rules::ambiguousHeader,
         &rules::duplicateId,    &rules::duplicateSymbol, &rules::facilityClash,
-        &rules::reservedSymbol, &rules::languageUnused,  &rules::unusedAllow,
+        &rules::reservedSymbol, &rules::languageUnused,  &rules::argumentAnnotation,
+        &rules::unusedAllow,
     };
     return all;
 }

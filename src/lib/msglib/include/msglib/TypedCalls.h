@@ -162,6 +162,10 @@ void addAccepted(MessageFormatStream& stream, const Value& value) {
     }
 }
 
+/// False, but only known where a function is called: for functions that cannot be.
+template <class... Values>
+inline constexpr bool never = false;
+
 /// Returns the stream of a message with its arguments, each added as its kind does.
 ///
 /// A value that its kind does not accept adds nothing: the caller has refused it, and no second

@@ -4,6 +4,7 @@
 #include "Command.h"
 #include "DiagnosticOptions.h"
 #include "GeneratedSources.h"
+#include "MessageChecks.h"
 #include "MessageTable.h"
 #include "OutputFiles.h"
 #include "Unicode.h"
@@ -81,6 +82,7 @@ ExitStatus compile(const CompileOptions& options) {
     Diagnostics diagnostics(options.diagnostics.policy());
     const auto catalogues = readCatalogues(options.files, options.encoding, diagnostics);
     checkIdentifiers(catalogues, diagnostics);
+    checkMessages(catalogues, diagnostics);
     const auto found = diagnostics.take();
     options.diagnostics.write(found);
     if (hasErrors(found)) {

@@ -19,11 +19,14 @@ namespace zem::msglib::tool {
 
 namespace {
 
-/// A letter that other languages of date patterns have as a field.
+/// A letter that is a field in other languages of date patterns.
 struct ForeignLetter {
     char letter;
-    std::size_t fewest; ///< shorter runs are more probably text
+    std::size_t fewest; ///< in a run; shorter ones are more probably text
     std::string_view advice;
+    char field = '\0'; ///< what the advice names; none if there is no such field
+    std::size_t shortest = 1;
+    std::size_t longest = 1;
 };
 
 constexpr std::string_view noZone = "fields are those of UTC, and there is no time zone";
@@ -31,17 +34,17 @@ constexpr std::string_view noFraction = "there are no fractions of a second";
 constexpr std::string_view noWeek = "there are no weeks";
 
 constexpr ForeignLetter foreignLetters[] = {
-    {'a', 1, "the marker is `tt`"},
-    {'E', 1, "the day's name is `dddd`, or `ddd` for short"},
-    {'e', 3, "the day's name is `dddd`, or `ddd` for short"},
-    {'c', 3, "the day's name is `dddd`, or `ddd` for short"},
-    {'Y', 1, "the year is `yyyy`"},
-    {'u', 4, "the year is `yyyy`"},
-    {'D', 1, "the day of the month is `dd`"},
-    {'L', 1, "the month is `MM`, its name `MMMM`"},
-    {'k', 1, "the hour of 24 is `HH`"},
-    {'K', 1, "the hour of 12 is `hh`"},
-    {'G', 1, "the era is `g`"},
+    {'a', 1, "the marker is ", 't', 2, 2},
+    {'E', 1, "the day's name is ", 'd', 3, 4},
+    {'e', 3, "the day's name is ", 'd', 3, 4},
+    {'c', 3, "the day's name is ", 'd', 3, 4},
+    {'Y', 1, "the year is ", 'y', 1, 4},
+    {'u', 4, "the year is ", 'y', 4, 4},
+    {'D', 1, "the day of the month is ", 'd', 1, 2},
+    {'L', 1, "the month is ", 'M', 1, 4},
+    {'k', 1, "the hour of 24 is ", 'H', 1, 2},
+    {'K', 1, "the hour of 12 is ", 'h', 1, 2},
+    {'G', 1, "the era is ", 'g', 1, 1},
     {'S', 1, noFraction},
     {'f', 2, noFraction},
     {'F', 2, noFraction},
@@ -53,6 +56,13 @@ constexpr ForeignLetter foreignLetters[] = {
     {'W', 1, noWeek},
     {'Q', 1, "there are no quarters"},
 };
+
+/// Returns what to write in place of a run of a foreign letter, or why there is nothing.
+std::string adviceFor(const ForeignLetter& foreign, std::string_view run) {
+    const std::size_t length = std::clamp(run.size(), foreign.shortest, foreign.longest);
+    return std::string(foreign.advice) +
+           (foreign.field == '\0' ? "" : code(std::string(length, foreign.field)));
+}
 
 const ForeignLetter* foreignLetter(std::string_view run) {
     const auto* const found = std::find_if(
@@ -196,7 +206,7 @@ private:
             isForeign_ = true;
             diagnostics_.report(rules::dateLetter, style_.placeOf(run.text),
                                 code(run.text) + " is no date letter; " +
-                                    std::string(foreign->advice));
+                                    adviceFor(*foreign, run.text));
         }
     }
 

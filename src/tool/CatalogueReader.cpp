@@ -51,6 +51,7 @@ private:
     void readMessageIdTypedef(const Token& keyword);
     void readOutputBase(const Token& keyword);
 
+    void beginHead(const Token& keyword);
     void beginMessage();
     void endMessage(std::size_t end);
     MessageHead& openHead(const Token& keyword);
@@ -66,6 +67,7 @@ private:
     Identifiers identifiers_;
     std::vector<Message> messages_;
     std::optional<MessageHead> head_; ///< of a message that has no text yet
+    bool isRecovering_ = false;       ///< whether an error may have been in a `MessageId`
     bool isInMessage_ = false;        ///< whether the last of `messages_` may get further texts
 };
 
@@ -78,7 +80,7 @@ std::vector<Message> CatalogueReader::read() {
         }
     }
     lexer_.take();
-    if (messages_.empty() && !head_) {
+    if (messages_.empty() && !head_ && !isRecovering_) {
         diagnostics_.report(rules::fileSyntax, {&source_, 0, 0}, "no message in the file");
     }
     refuseMissingText();
@@ -138,6 +140,7 @@ void CatalogueReader::skipToStatement() {
     if (head_) {
         head_->isBroken = true;
     }
+    isRecovering_ = !head_;
     lexer_.takeRestOfLine();
     while (!lexer_.isAtEnd() && !startsStatement()) {
         lexer_.takeLine();
@@ -146,11 +149,8 @@ void CatalogueReader::skipToStatement() {
 
 /// No number means one more than the last, "+n" means n more.
 void CatalogueReader::readMessageId(const Token& keyword) {
-    refuseMissingText();
-    endMessage(keyword.place.offset);
-    head_.emplace();
-    head_->keyword = head_->number = keyword.place;
-    head_->comments = lexer_.takeComments();
+    isRecovering_ = false;
+    beginHead(keyword);
     const Token value = lexer_.peek();
     head_->isRelative = value.is('+');
     if (head_->isRelative) {
@@ -188,6 +188,9 @@ void CatalogueReader::readSymbolicName(const Token& keyword) {
 
 /// Reads the language and the text, which begins on the next line.
 void CatalogueReader::readLanguage(const Token& keyword) {
+    if (isRecovering_) {
+        openHead(keyword);
+    }
     if (!head_ && !isInMessage_) {
         abandon(keyword.place, "Language belongs to a message, which begins with MessageId");
     }
@@ -239,6 +242,16 @@ void CatalogueReader::readOutputBase(const Token& keyword) {
     }
 }
 
+/// Ends the message before, and begins a head.
+void CatalogueReader::beginHead(const Token& keyword) {
+    refuseMissingText();
+    endMessage(keyword.place.offset);
+    head_.emplace();
+    head_->keyword = head_->number = keyword.place;
+    head_->comments = lexer_.takeComments();
+    head_->isBroken = std::exchange(isRecovering_, false);
+}
+
 /// Makes a message of the head, if this is the message's first text.
 void CatalogueReader::beginMessage() {
     const std::vector<Place> comments = lexer_.takeComments();
@@ -264,8 +277,12 @@ void CatalogueReader::endMessage(std::size_t end) {
     }
 }
 
-/// Returns the head that a statement belongs to.
+/// Returns the head that a statement belongs to. After an error that may have been in its
+/// MessageId, the statement begins one.
 MessageHead& CatalogueReader::openHead(const Token& keyword) {
+    if (!head_ && isRecovering_) {
+        beginHead(keyword);
+    }
     if (!head_) {
         abandon(keyword.place,
                 std::string(keyword.text()) + " belongs between MessageId and Language");
@@ -274,11 +291,11 @@ MessageHead& CatalogueReader::openHead(const Token& keyword) {
 }
 
 void CatalogueReader::refuseMissingText() {
-    if (head_) {
+    if (head_ && !head_->isBroken) {
         diagnostics_.report(rules::fileSyntax, head_->keyword,
                             "the message has no text: Language is missing");
-        head_.reset();
     }
+    head_.reset();
 }
 
 } // namespace

@@ -3,9 +3,7 @@
 #include "Unicode.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
-#include <cstdio>
 #include <filesystem>
 #include <set>
 #include <string_view>
@@ -22,7 +20,8 @@ constexpr std::size_t alignment = 8;
 constexpr std::size_t bytesPerLine = 256;
 
 bool isAsciiWord(char32_t character) {
-    return character < 0x80 && std::isalnum(static_cast<int>(character)) != 0;
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
+           (character >= '0' && character <= '9');
 }
 
 /// Tells whether a character is a letter that every compiler takes in the name of a function: from
@@ -66,28 +65,43 @@ std::string hexadecimalLanguage(std::uint32_t language) {
     return hexadecimal(language).substr(6);
 }
 
-/// Appends a byte to a string literal of the assembler, in which letters, digits and blanks stand
-/// for themselves. So no text ends the literal of C++ around it.
-void appendEscaped(std::string& out, char byte) {
-    const auto value = static_cast<unsigned char>(byte);
-    if (isAsciiWord(value) || byte == ' ') {
-        out += byte;
-        return;
+bool isDigit(char byte) {
+    return byte >= '0' && byte <= '9';
+}
+
+bool isPlain(char byte) {
+    return isAsciiWord(static_cast<unsigned char>(byte)) || byte == ' ';
+}
+
+/// Appends bytes as a string literal of the assembler, in which letters, digits and blanks stand
+/// for themselves, so that no text ends the literal of C++ around it. The others are octal numbers,
+/// of three digits where another digit follows.
+void appendLiteral(std::string& out, std::string_view bytes) {
+    out += '"';
+    for (std::size_t index = 0; index < bytes.size(); ++index) {
+        const char byte = bytes[index];
+        if (isPlain(byte)) {
+            out += byte;
+            continue;
+        }
+        const auto value = static_cast<unsigned char>(byte);
+        const bool isWhole = index + 1 < bytes.size() && isDigit(bytes[index + 1]);
+        out += '\\';
+        for (unsigned shift = 9; shift > 0;) {
+            shift -= 3;
+            if (isWhole || value >> shift != 0 || shift == 0) {
+                out += static_cast<char>('0' + (value >> shift & 7));
+            }
+        }
     }
-    const auto digit = [value](unsigned shift) {
-        return static_cast<char>('0' + (value >> shift & 7));
-    };
-    const std::array<char, 4> escape = {'\\', digit(6), digit(3), digit(0)};
-    out.append(escape.data(), escape.size());
+    out += '"';
 }
 
 void appendBytes(std::string& out, std::string_view bytes) {
     for (; !bytes.empty(); bytes.remove_prefix(std::min(bytesPerLine, bytes.size()))) {
-        out += "    .ascii \"";
-        for (const char byte : bytes.substr(0, bytesPerLine)) {
-            appendEscaped(out, byte);
-        }
-        out += "\"\n";
+        out += "    .ascii ";
+        appendLiteral(out, bytes.substr(0, bytesPerLine));
+        out += '\n';
     }
 }
 

@@ -32,8 +32,8 @@ Token HeadLexer::take() {
 }
 
 Place HeadLexer::takeRestOfLine() {
-    const std::string_view text = file_.text();
     const std::size_t end = lineEnd(position_);
+    const std::string_view text = file_.text().substr(0, end);
     const std::size_t comment = std::min(text.find(';', position_), end);
     std::size_t begin = position_;
     std::size_t last = comment;
@@ -44,7 +44,7 @@ Place HeadLexer::takeRestOfLine() {
         --last;
     }
     collectComments(comment, end);
-    position_ = std::min(end + 1, text.size());
+    position_ = std::min(end + 1, file_.text().size());
     return {&file_, begin, last - begin};
 }
 

@@ -3,17 +3,17 @@
 
 #include "CallSignatures.h"
 
-#include "ArgumentUses.h"
 #include "CommentDirectives.h"
 #include "Names.h"
+#include "PatternTree.h"
 #include "ReservedNames.h"
+#include "Words.h"
 
 #include <algorithm>
 #include <charconv>
 #include <map>
 #include <optional>
 #include <set>
-#include <stdexcept>
 
 namespace zem::msglib::tool {
 
@@ -24,19 +24,30 @@ constexpr std::string_view annotationKeyword = "@arg";
 // Compilers take functions of more parameters, but nobody calls them.
 constexpr int mostArguments = 100;
 
-using Uses = std::map<int, ArgumentUse>;
-
 /// What all heads of one identifier have in common.
 struct MessageFacts {
-    std::optional<std::string_view> text;
+    std::optional<Place> pattern; ///< in the language that is looked up
     std::vector<Place> comments;
 };
 
-ValueKind kindOf(const ArgumentUse& use) {
-    if (use.isNumber) {
-        return use.isTime ? ValueKind::numberAndTime : ValueKind::number;
+/// Returns the kind that a placeholder asks for.
+ValueKind kindOf(const Placeholder& placeholder) {
+    switch (placeholder.kind) {
+    case PlaceholderKind::Number:
+    case PlaceholderKind::DecimalStyle:
+    case PlaceholderKind::Choice: return ValueKind::number;
+    case PlaceholderKind::Date:
+    case PlaceholderKind::DateStyle: return ValueKind::time;
+    default: return ValueKind::any;
     }
-    return use.isTime ? ValueKind::time : ValueKind::any;
+}
+
+/// Returns the kind of an argument that two placeholders ask for.
+ValueKind both(ValueKind one, ValueKind other) {
+    if (one == other || other == ValueKind::any) {
+        return one;
+    }
+    return one == ValueKind::any ? other : ValueKind::numberAndTime;
 }
 
 std::optional<ValueKind> kindOf(std::string_view word) {
@@ -56,18 +67,13 @@ bool fits(ValueKind said, ValueKind used) {
             (said == ValueKind::number || said == ValueKind::time));
 }
 
-/// What a text asks for, in the words of a comment.
-std::string_view wordsOf(ValueKind used) {
+/// What a comment has to say if the text asks for `used`, which is not `any`.
+const char* adviceFor(ValueKind used) {
     switch (used) {
-    case ValueKind::number: return "number";
-    case ValueKind::time: return "time";
-    case ValueKind::numberAndTime: return "number or time";
-    default: return "text or any";
+    case ValueKind::number: return "write number";
+    case ValueKind::time: return "write time";
+    default: return "write number or time";
     }
-}
-
-std::string quoted(std::string_view word) {
-    return "\"" + std::string(word) + "\"";
 }
 
 /// Tells whether a word can name a parameter. Names like `argument0` are those of parameters that
@@ -95,7 +101,7 @@ public:
         if (Parameter* const parameter = find(index.length > 0 ? index : keyword)) {
             readName(takeWord(rest), index, *parameter);
             readKind(takeWord(rest), *parameter);
-            parameter->description = trimmed(rest.text());
+            parameter->description = withoutBlanks(rest.text());
         }
     }
 
@@ -117,13 +123,13 @@ private:
 /// Returns the parameter that an annotation is about; null if that has been reported.
 Parameter* AnnotationReader::find(const Place& index) {
     const std::string_view digits = index.text();
-    std::size_t value = 0;
+    std::size_t value = std::string_view::npos; // it stays so if the number is out of range
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error == std::errc::invalid_argument || end != digits.data() + digits.size()) {
         report(index, "the index of an argument is missing",
                {{"write @arg, index, name, kind and description, as in "
                  "\"@arg 0 files number How many were copied\""}});
-    } else if (value >= parameters_.size()) { // also if it is out of range
+    } else if (value >= parameters_.size()) {
         report(
             index, "the message has no argument " + std::string(digits),
             {{"its text in English (United States) uses " +
@@ -140,7 +146,7 @@ void AnnotationReader::readName(const Place& name, const Place& index, Parameter
     if (name.length == 0) {
         report(index, "the name of argument " + std::string(index.text()) + " is missing");
     } else if (!isParameterName(name.text())) {
-        report(name, quoted(name.text()) + " cannot be the name of a parameter");
+        report(name, code(name.text()) + " cannot be the name of a parameter");
     } else if (!names_.insert(name.text()).second) {
         report(name, "another argument of the message has this name");
     } else {
@@ -154,42 +160,48 @@ void AnnotationReader::readKind(const Place& kind, Parameter& parameter) {
         return;
     }
     if (!said) {
-        report(kind, quoted(kind.text()) + " is no kind of argument",
+        report(kind, code(kind.text()) + " is no kind of argument",
                {{"the kinds are text, number, time and any"}});
     } else if (!fits(*said, parameter.kind)) {
-        report(kind, "the text does not use this argument as " + quoted(kind.text()),
-               {{"write " + std::string(wordsOf(parameter.kind))}});
+        report(kind, "the text does not use this argument as " + std::string(kind.text()),
+               {{adviceFor(parameter.kind)}});
     } else if (parameter.kind == ValueKind::any) {
         parameter.kind = *said;
     }
 }
 
 /// Gives a signature the parameters that its text asks for, or the reason why it has none.
-void readParameters(CallSignature& signature) {
-    try {
-        const Uses uses = argumentUses(signature.text);
-        const int highest = uses.empty() ? -1 : uses.rbegin()->first;
-        if (highest >= mostArguments) {
-            signature.refusal = "uses argument " + std::to_string(highest) + ", and a call has " +
-                                std::to_string(mostArguments) + " arguments at most";
+void readParameters(const PatternTree& tree, CallSignature& signature) {
+    for (const PatternText& text : tree.texts()) {
+        if (!text.errors.empty()) { // which are reported by the check of patterns
+            signature.refusal = "has a text that does not compile";
             return;
         }
-        signature.parameters.resize(static_cast<std::size_t>(highest + 1));
-        for (const auto& [index, use] : uses) {
-            signature.parameters[static_cast<std::size_t>(index)].kind = kindOf(use);
+        for (const Placeholder& placeholder : text.placeholders) {
+            if (placeholder.index >= mostArguments) {
+                signature.refusal = "uses argument " + std::to_string(placeholder.index) +
+                                    ", and a call has " + std::to_string(mostArguments) +
+                                    " arguments at most";
+                return;
+            }
+            if (placeholder.index >= 0) { // there is never an argument with a negative index
+                const auto index = static_cast<std::size_t>(placeholder.index);
+                auto& parameters = signature.parameters;
+                parameters.resize(std::max(parameters.size(), index + 1));
+                parameters[index].kind = both(parameters[index].kind, kindOf(placeholder));
+            }
         }
-    } catch (const std::runtime_error&) { // which the check of patterns reports
-        signature.refusal = "has a text that does not compile";
     }
 }
 
 CallSignature readSignature(const MessageFacts& facts, Diagnostics& diagnostics) {
-    CallSignature signature{{}, facts.text.value_or(""), {}, {}};
-    if (!facts.text) {
+    CallSignature signature;
+    if (!facts.pattern) {
         signature.refusal = "has no text in English (United States)";
         return signature;
     }
-    readParameters(signature);
+    signature.text = facts.pattern->text();
+    readParameters(PatternTree(*facts.pattern), signature);
     if (signature.refusal.empty()) {
         AnnotationReader annotations(signature.parameters, diagnostics);
         for (const Place& comment : facts.comments) {
@@ -213,7 +225,7 @@ std::map<std::uint32_t, MessageFacts> collectFacts(const Catalogue& catalogue) {
                               message.comments.end());
         for (const MessageText& text : message.texts) {
             if (text.language == lookedUpLanguage) {
-                known.text = text.pattern.text();
+                known.pattern = text.pattern;
             }
         }
     }

@@ -14,7 +14,11 @@ enum class ExitStatus { success = 0, errors = 1, cannotRun = 2 };
 /// What the chosen command does once the whole command line has been read.
 using Command = std::function<ExitStatus()>;
 
-/// Adds `msglib compile` to the program. If it is chosen, it is put into `chosen`.
+// Each of these adds a command to the program. If it is chosen, it is put into `chosen`.
+
+void addCheckCommand(CLI::App& program, Command& chosen);
 void addCompileCommand(CLI::App& program, Command& chosen);
+void addExplainRuleCommand(CLI::App& program, Command& chosen);
+void addRulesCommand(CLI::App& program, Command& chosen);
 
 } // namespace zem::msglib::tool

@@ -6,6 +6,7 @@
 #include "Command.h"
 #include "DiagnosticOptions.h"
 #include "GeneratedSources.h"
+#include "MessageChecks.h"
 #include "MessageTable.h"
 #include "Names.h"
 #include "OutputFiles.h"
@@ -93,22 +94,24 @@ std::vector<CatalogueName> namesOf(const CompileOptions& options) {
     return names;
 }
 
-/// Refuses symbols that are the outermost namespace of the typed calls too.
-void checkNamespace(const CatalogueName& name, const std::vector<CallSignature>& calls) {
+/// Returns the header of typed calls, unless their outermost namespace is a symbolic name too.
+std::string callsText(const CatalogueName& name, const Catalogue& catalogue) {
+    Diagnostics reportedBefore;
+    const auto signatures = readSignatures(catalogue, reportedBefore);
     const std::string_view space = std::string_view(name.calls).substr(0, name.calls.find("::"));
-    for (const CallSignature& call : calls) {
-        if (call.symbol == space) {
+    for (const CallSignature& signature : signatures) {
+        if (signature.symbol == space) {
             throw CannotRun(name.file + ": the symbolic name " + std::string(space) +
                             " is the namespace of the typed calls too; name another one by "
                             "--namespace " +
                             name.stem + "=NAMESPACE");
         }
     }
+    return callsHeaderText(name, signatures);
 }
 
 OutputFiles outputsOf(const CompileOptions& options, const std::vector<CatalogueName>& names,
-                      const std::vector<Catalogue>& catalogues,
-                      const std::vector<std::vector<CallSignature>>& calls) {
+                      const std::vector<Catalogue>& catalogues) {
     const bool isForElf = options.format == "elf";
     OutputFiles outputs(options.output);
     std::vector<const Catalogue*> all;
@@ -117,7 +120,7 @@ OutputFiles outputsOf(const CompileOptions& options, const std::vector<Catalogue
         const CatalogueName& name = names[index];
         const Tables embedded = isForElf ? compileTables({&catalogue}, shortBlock) : Tables();
         outputs.add(name.stem + ".h", headerText(name, catalogue));
-        outputs.add(name.stem + "Calls.h", callsHeaderText(name, calls[index]));
+        outputs.add(name.stem + "Calls.h", callsText(name, catalogue));
         outputs.add(name.stem + ".cpp", sourceText(name, catalogue, embedded));
         all.push_back(&catalogue);
     }
@@ -136,17 +139,13 @@ ExitStatus compile(const CompileOptions& options) {
     Diagnostics diagnostics(options.diagnostics.policy());
     const auto catalogues = readCatalogues(options.files, options.encoding, diagnostics);
     checkIdentifiers(catalogues, diagnostics);
-    std::vector<std::vector<CallSignature>> calls;
-    for (std::size_t index = 0; index < catalogues.size(); ++index) {
-        calls.push_back(readSignatures(catalogues[index], diagnostics));
-        checkNamespace(names[index], calls.back());
-    }
+    checkMessages(catalogues, diagnostics);
     const auto found = diagnostics.take();
     options.diagnostics.write(found);
     if (hasErrors(found)) {
         return ExitStatus::errors;
     }
-    outputsOf(options, names, catalogues, calls).write();
+    outputsOf(options, names, catalogues).write();
     return ExitStatus::success;
 }
 

@@ -87,6 +87,7 @@ std::vector<Diagnostic> Diagnostics::take() {
                      [](const Diagnostic& one, const Diagnostic& other) {
                          return comesBefore(one.place, other.place);
                      });
+    keepFirstOfFiles();
     return std::move(diagnostics_);
 }
 
@@ -121,6 +122,16 @@ void Diagnostics::reportUnusedAllowances() {
                    "nothing to allow: the message has no diagnostic of this rule");
         }
     }
+}
+
+void Diagnostics::keepFirstOfFiles() {
+    std::set<std::pair<const Rule*, const SourceFile*>> seen;
+    const auto isRepeated = [&seen](const Diagnostic& diagnostic) {
+        return diagnostic.rule->isOncePerFile &&
+               !seen.emplace(diagnostic.rule, diagnostic.place.file).second;
+    };
+    diagnostics_.erase(std::remove_if(diagnostics_.begin(), diagnostics_.end(), isRepeated),
+                       diagnostics_.end());
 }
 
 bool hasErrors(const std::vector<Diagnostic>& diagnostics) {

@@ -78,6 +78,7 @@ private:
 
     bool isAllowed(const Diagnostic& diagnostic);
     void reportUnusedAllowances();
+    void keepFirstOfFiles();
 
     SeverityPolicy policy_;
     std::vector<Diagnostic> diagnostics_;

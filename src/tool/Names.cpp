@@ -43,12 +43,6 @@ bool equalInAnyCase(std::string_view one, std::string_view other) noexcept {
                       [](char left, char right) { return lower(left) == lower(right); });
 }
 
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\f\v";
-    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
-    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
-}
-
 bool isIdentifier(std::string_view text) {
     const auto isDigit = [](char byte) { return byte >= '0' && byte <= '9'; };
     return !text.empty() && !isDigit(text.front()) &&

@@ -15,9 +15,6 @@ std::string lowerCase(std::string_view text);
 /// Tells whether two texts agree but for the case of ASCII letters.
 bool equalInAnyCase(std::string_view one, std::string_view other) noexcept;
 
-/// Returns a text without the blanks at its start and end.
-std::string_view trimmed(std::string_view text);
-
 /// Tells whether a text has the form of a name in C++, of ASCII characters.
 bool isIdentifier(std::string_view text);
 

@@ -20,7 +20,14 @@ struct Rule {
     Severity severity;
     bool mayBeAllowed; ///< whether its diagnostics can be silenced: not if nothing can be compiled
     std::string_view summary;     ///< what it fires on, in one line without a full stop
-    std::string_view explanation; ///< why that is a problem and what to write, with an example
+    std::string_view explanation; ///< why that is a problem and what to write
+
+    /// Two examples, the first of which the rule fires on: patterns, or message text files of
+    /// several lines. Both are empty if they can't be written in UTF-8.
+    std::string_view wrong;
+    std::string_view right;
+
+    bool isOncePerFile = false; ///< whether only the first diagnostic of a file is reported
 };
 
 /// Returns all rules, in the order in which documentation lists them.
@@ -42,6 +49,36 @@ extern const Rule duplicateSymbol;
 extern const Rule facilityClash;
 extern const Rule reservedSymbol;
 extern const Rule languageUnused;
+
+// Patterns: what fails or breaks UTF-8 at run time.
+extern const Rule syntax;
+extern const Rule invalidEncoding;
+extern const Rule negativeIndex;
+
+// Patterns: what surely isn't meant.
+extern const Rule unknownType;
+extern const Rule timeStyle;
+extern const Rule indexTrailing;
+extern const Rule choiceLimit;
+extern const Rule choiceOrder;
+extern const Rule choiceQuote;
+extern const Rule choiceClosing;
+extern const Rule quoteVanishes;
+extern const Rule noDigitMark;
+extern const Rule zeroVanishes;
+extern const Rule decimalDigit;
+extern const Rule implicitDecimals;
+extern const Rule percentTwice;
+extern const Rule dateLetter;
+extern const Rule dateWord;
+extern const Rule dateQuote;
+extern const Rule minuteForMonth;
+extern const Rule hourMarker;
+extern const Rule foreignInsert;
+extern const Rule unusedArgument;
+
+// Patterns of one message in several languages.
+extern const Rule translationArguments;
 
 // Comments.
 extern const Rule argumentAnnotation;

@@ -18,6 +18,12 @@ constexpr std::size_t highestTextUnits = (65532 - 4) / 2 - 1;
 
 constexpr std::string_view finalLine = ".";
 
+std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view blanks = " \t\f\v";
+    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+}
+
 /// Tells whether a line of a text looks like the start of the next message or text.
 bool startsNextText(std::string_view line, const DeclaredNames& languages) {
     const std::size_t equals = line.find('=');

@@ -21,6 +21,9 @@ ExitStatus run(int argc, const char* const* argv) {
                    "Exit status: 0 without errors, 1 with errors, 2 if the program could not run.");
     Command chosen;
     addCompileCommand(program, chosen);
+    addCheckCommand(program, chosen);
+    addRulesCommand(program, chosen);
+    addExplainRuleCommand(program, chosen);
     try {
         program.parse(argc, argv);
     } catch (const CLI::Error& error) {

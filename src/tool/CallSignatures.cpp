@@ -19,8 +19,6 @@ namespace zem::msglib::tool {
 
 namespace {
 
-constexpr std::string_view annotationKeyword = "@arg";
-
 // Compilers take functions of more parameters, but nobody calls them.
 constexpr int mostArguments = 100;
 
@@ -249,11 +247,6 @@ std::vector<CallSignature> readSignatures(const Catalogue& catalogue, Diagnostic
         }
     }
     return signatures;
-}
-
-bool isAnnotation(Place comment) {
-    Place rest = contentOf(comment);
-    return takeWord(rest).text() == annotationKeyword;
 }
 
 } // namespace zem::msglib::tool

@@ -38,7 +38,4 @@ struct CallSignature {
 /// does not fit the text is reported, and counts only as far as it fits.
 std::vector<CallSignature> readSignatures(const Catalogue& catalogue, Diagnostics& diagnostics);
 
-/// Tells whether a comment describes an argument.
-bool isAnnotation(Place comment);
-
 } // namespace zem::msglib::tool

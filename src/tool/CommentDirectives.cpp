@@ -26,6 +26,11 @@ Place takeWord(Place& rest) {
     return word;
 }
 
+bool isAnnotation(Place comment) {
+    Place rest = contentOf(comment);
+    return takeWord(rest).text() == "@arg";
+}
+
 CommentDirective readDirective(Place comment) {
     Place rest = contentOf(comment);
     if (rest.text().substr(0, name.size()) != name) {

@@ -22,6 +22,9 @@ struct CommentDirective {
 /// @param comment  from its ";" to the end of its line
 CommentDirective readDirective(Place comment);
 
+/// Tells whether a comment begins with `@arg`, as those about arguments do.
+bool isAnnotation(Place comment);
+
 /// Returns what a comment says: all but its ";", and a "//" after that.
 Place contentOf(Place comment);
 

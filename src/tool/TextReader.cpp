@@ -1,6 +1,5 @@
 #include "TextReader.h"
 
-#include "CallSignatures.h"
 #include "CommentDirectives.h"
 #include "Unicode.h"
 

@@ -80,8 +80,8 @@ std::vector<CatalogueName> namesOf(const CompileOptions& options) {
         if (!headers.insert(name.stem).second || !headers.insert(name.stem + "Calls").second ||
             !registrations.insert(name.registration).second) {
             throw CannotRun(file + ": another catalogue has the name " + name.stem +
-                            ", or one too similar for the headers or the function " +
-                            name.registration);
+                            ", or one too similar for the function " + name.registration +
+                            " or for a header");
         }
         if (const auto chosen = namespaces.extract(name.stem)) {
             name.calls = chosen.mapped();

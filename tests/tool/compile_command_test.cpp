@@ -31,7 +31,7 @@ TEST_F(CompileCommandTest, WritesTheSameBytesEverywhere) {
     ASSERT_EQ(compile("App.mc --output out").output, "");
     ASSERT_EQ(compile("'../x/a b/App.mc' --output 'ä'").status, 2);
     ASSERT_EQ(compile("\"$PWD/a b/App.mc\" --output 'deep/ä'").output, "");
-    for (const char* const name : {"App.h", "App.cpp"}) {
+    for (const char* const name : {"App.h", "AppCalls.h", "App.cpp"}) {
         const std::string bytes = read(fs::path("out") / name);
         EXPECT_EQ(bytes, read(fs::path("deep/ä") / name));
         EXPECT_EQ(bytes.find(folder_.string()), std::string::npos);
@@ -54,7 +54,7 @@ TEST_F(CompileCommandTest, TouchesNoFileThatStaysTheSame) {
     const auto before = fs::file_time_type::clock::now() - std::chrono::hours(1);
     const auto touched = [&] {
         std::string names;
-        for (const char* const name : {"App.h", "App.cpp"}) {
+        for (const char* const name : {"App.h", "AppCalls.h", "App.cpp"}) {
             names += fs::last_write_time(folder_ / name) == before ? "" : name;
             fs::last_write_time(folder_ / name, before);
         }
@@ -100,7 +100,8 @@ TEST_F(CompileCommandTest, WritesAllFilesOrNone) {
 
 TEST_F(CompileCommandTest, EndsWithTheStatusOfWhatItFound) {
     fs::create_directories(folder_ / "b");
-    for (const char* const name : {"Good.mc", "b/Good.mc", "go od.mc", "go-od.mc", "a\"b.mc"}) {
+    for (const char* const name :
+         {"Good.mc", "b/Good.mc", "go od.mc", "go-od.mc", "GoodCalls.mc", "a\"b.mc"}) {
         write(name, good);
     }
     write("Wrong.mc", wrong);
@@ -133,6 +134,13 @@ TEST_F(CompileCommandTest, EndsWithTheStatusOfWhatItFound) {
         {__LINE__, "--output x", 2, "FILE is required"},
         {__LINE__, "Good.mc b/Good.mc --output x", 2, "another catalogue has the name Good"},
         {__LINE__, "'go od.mc' go-od.mc --output x", 2, "similar for the function registerGoOd"},
+        {__LINE__, "Good.mc GoodCalls.mc --output x", 2,
+         "similar for the function registerGoodCalls"},
+        {__LINE__, "Good.mc --output x --namespace Good=app::good", 0, ""},
+        {__LINE__, "Good.mc --output x --namespace Good=app::default", 2, "CATALOGUE=NAMESPACE"},
+        {__LINE__, "Good.mc --output x --namespace app", 2, "CATALOGUE=NAMESPACE"},
+        {__LINE__, "Good.mc --output x --namespace Bad=app", 2, "there is no catalogue Bad"},
+        {__LINE__, "Good.mc --output x --namespace Good=MSG_A::x", 2, "MSG_A is the namespace"},
         {__LINE__, "'a\"b.mc' --output x", 2, "a header cannot have the name"},
         {__LINE__, "--help", 0, "msglib compile App.mc --output ."},
     };

@@ -1,6 +1,6 @@
 #include "Größe und Gewicht.h"
 #include "generated.h"
-#include "late.h"
+#include "lateCalls.h"
 #include "messages.h"
 
 #include <msglib/MessageFormatStream.h>
@@ -15,8 +15,9 @@ int main() {
     registerGrößeUndGewicht();
     registerGenerated();
     registerLate();
-    for (const unsigned int id : {MSG_OWN, MSG_SIZE, MSG_GENERATED, MSG_LATE}) {
+    for (const unsigned int id : {MSG_OWN, MSG_SIZE, MSG_GENERATED}) {
         std::cout << zem::msglib::MessageFormatStream(id).toString();
     }
+    std::cout << app::late::MSG_LATE().toString();
     std::cout << textOfArchive() << textOfShared();
 }

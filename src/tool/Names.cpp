@@ -49,7 +49,7 @@ std::optional<std::string_view> nearest(std::string_view word,
         return std::nullopt;
     }
     std::optional<std::string_view> best;
-    std::size_t least = std::max<std::size_t>(word.size() / 3, 1) + 1;
+    std::size_t least = (word.size() + 2) / 3 + 1;
     for (const std::string_view candidate : candidates) {
         const std::size_t steps =
             candidate.size() > longestWord ? least : distance(word, candidate);

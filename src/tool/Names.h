@@ -17,7 +17,7 @@ bool equalInAnyCase(std::string_view one, std::string_view other) noexcept;
 
 /// Returns the candidate that a wrong word is probably meant to be: the one that the fewest
 /// insertions, deletions and replacements of characters lead to, in any case. None if that takes
-/// more than a third of the word, and at least one.
+/// more than one for each three characters of the word.
 std::optional<std::string_view> nearest(std::string_view word,
                                         const std::vector<std::string_view>& candidates);
 

@@ -28,7 +28,7 @@ bool hasBytes(const fs::path& path, const std::string& bytes) {
     return in && present == bytes;
 }
 
-/// Writes a file and sees to it that every failure shows.
+/// Writes a whole file or none.
 void writeBytes(const fs::path& path, const std::string& bytes) {
     std::FILE* const file = std::fopen(path.c_str(), "wb");
     bool isWritten =
@@ -39,6 +39,7 @@ void writeBytes(const fs::path& path, const std::string& bytes) {
         reason = errno;
     }
     if (!isWritten) {
+        std::remove(path.c_str());
         refuse(path, std::generic_category().message(reason));
     }
 }
@@ -91,6 +92,9 @@ void OutputFiles::write() const {
     }
     std::vector<PendingFile> pending;
     for (const auto& [path, bytes] : files_) {
+        if (fs::exists(path, failed) && !fs::is_regular_file(path, failed)) {
+            refuse(path, "there is something else of that name");
+        }
         if (!hasBytes(path, bytes)) {
             pending.emplace_back(path, bytes);
         }

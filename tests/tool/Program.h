@@ -28,7 +28,7 @@ protected:
     /// Runs a command of the shell in the folder.
     Outcome run(const std::string& command) const {
         Outcome outcome{0, {}};
-        const std::string line = "cd '" + folder_.string() + "' && " + command + " 2>&1";
+        const std::string line = "{ cd '" + folder_.string() + "' && " + command + "\n} 2>&1";
         FILE* const pipe = popen(line.c_str(), "r");
         for (int byte = std::fgetc(pipe); byte != EOF; byte = std::fgetc(pipe)) {
             outcome.output += static_cast<char>(byte);

@@ -86,13 +86,18 @@ void checkOrder(const ChoiceEntry& entry, const ChoiceEntry& former, Diagnostics
 
 void checkEntries(const Placeholder& placeholder, Diagnostics& diagnostics) {
     const ChoiceEntry* former = nullptr;
+    bool isAfterBrace = false; // which leaves an apostrophe before the limit
     for (const ChoiceEntry& entry : placeholder.entries) {
-        if (former != nullptr && former->endsAtBrace) {
-            diagnostics.report(rules::choiceClosing, placeOfLimit(entry),
-                               "an unmatched brace before this ends a choice as `|` does");
+        if (entry.brace.file != nullptr) {
+            diagnostics.report(rules::choiceClosing, entry.brace,
+                               "this brace closes nothing, so it ends a choice as `|` does");
         }
-        if (!isWhollyNumber(entry.limitText.text())) {
+        const bool isKnown = isWhollyNumber(entry.limitText.text());
+        if (!isKnown && !isAfterBrace) {
             checkLimit(entry, diagnostics);
+        }
+        isAfterBrace = entry.brace.file != nullptr;
+        if (!isKnown) {
             former = nullptr;
             continue;
         }

@@ -82,6 +82,17 @@ void checkDigits(const TracedText& style, Diagnostics& diagnostics) {
     }
 }
 
+/// Finds apostrophes around several characters, which they don't quote.
+void checkQuotes(const TracedText& style, Diagnostics& diagnostics) {
+    const std::string text = show(style.text(), 7.0).value_or("");
+    if (std::count(text.begin(), text.end(), '\'') >= 2 &&
+        style.text().find("''") == std::string_view::npos) {
+        diagnostics.report(rules::decimalQuote, style.place(),
+                           "apostrophes around several characters quote nothing: shows 7 as " +
+                               shown(text));
+    }
+}
+
 /// Tells whether a choice by the same argument keeps zero away from a placeholder.
 bool excludesZero(const PatternTree& tree, const PatternText& text, int index) {
     constexpr int farthest = 64; // bounds the time; nobody nests as deep
@@ -122,6 +133,7 @@ void checkStyle(const PatternTree& tree, const PatternText& text, const Placehol
         return; // a syntax error, which has been reported
     }
     checkEncoding(style, diagnostics);
+    checkQuotes(style, diagnostics);
     if (style.text().find_first_of(digitMarks) == std::string_view::npos) {
         checkMarks(style, diagnostics);
     } else {

@@ -24,7 +24,7 @@ std::optional<Arguments> argumentsOf(const PatternTree& tree) {
             return std::nullopt;
         }
         for (const Placeholder& placeholder : text.placeholders) {
-            arguments.emplace(placeholder.index, placeholder.whole);
+            arguments.emplace(placeholder.index, placeholder.indexText.place());
         }
     }
     return arguments;

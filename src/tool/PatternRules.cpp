@@ -46,8 +46,8 @@ const Rule unknownType = {
     "capitals and blanks count, and `integer`, `currency`, `percent`, `short`, `medium`,\n"
     "`long` and `full` are styles. With any other type, the argument is shown as without a\n"
     "type, and the style is ignored.",
-    "{0,Number}",
-    "{0,number}"};
+    "{0,Number,0.0}",
+    "{0,number,0.0}"};
 
 const Rule timeStyle = {
     "time-style",
@@ -106,7 +106,7 @@ const Rule choiceClosing = {
     "an unmatched brace that ends a choice",
     "A closing brace without an opening one ends the text of a choice as `|` does, and the\n"
     "rest is read as another choice.",
-    "{0,choice,0#'a'}'1#b}",
+    "{0,choice,0#''a'}'1#b}",
     "{0,choice,0#a|1#b}"};
 
 const Rule quoteVanishes = {
@@ -148,6 +148,16 @@ const Rule decimalDigit = {
     "Only `0` and `#` are marks. Other digits are text, and look like a part of the number.",
     "{0,number,1,000.00}",
     "{0,number,#,##0.00}"};
+
+const Rule decimalQuote = {"decimal-quote",
+                           Severity::warning,
+                           true,
+                           "apostrophes around several characters of a decimal pattern",
+                           "In a decimal pattern, apostrophes quote one byte. Around more, they "
+                           "stand for themselves and are\n"
+                           "shown. Letters other than `E` need no quoting.",
+                           "{0,number,0 'kg'}",
+                           "{0,number,0 kg}"};
 
 const Rule implicitDecimals = {
     "implicit-decimals",
@@ -195,8 +205,8 @@ const Rule dateQuote = {
     "an apostrophe in a date pattern that is not shown",
     "An apostrophe without a partner quotes the rest of the pattern. In a message, two\n"
     "apostrophes arrive as one.",
-    "{0,time,h o'clock tt}",
-    "{0,time,h 'o’clock' tt}"};
+    "{0,time,HH o'clock}",
+    "{0,time,HH 'o’clock'}"};
 
 const Rule minuteForMonth = {"minute-for-month",
                              Severity::warning,

@@ -212,9 +212,12 @@ private:
             chosen(piece);
             drops(piece, text.dropped);
         });
-        const bool endsAtBrace = more && style.text()[reader.position() - 1] == '}';
+        const std::size_t end = reader.position() - 1;
+        const bool endsAtBrace = more && style.text()[end] == '}';
         placeholder.entries.push_back({style.part(style.text().substr(begin, separator - begin)),
-                                       limit, style.text()[separator], endsAtBrace, texts_.size()});
+                                       limit, style.text()[separator],
+                                       endsAtBrace ? style.place(end, end + 1) : Place(),
+                                       texts_.size()});
         texts_.push_back({chosen.take(),
                           text.depth + 1,
                           number_,

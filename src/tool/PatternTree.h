@@ -48,7 +48,7 @@ struct ChoiceEntry {
     TracedText limitText; ///< as written, up to the separator
     double limit;         ///< the least value, as the library reads it
     char separator;
-    bool endsAtBrace; ///< whether an unmatched brace ends the text, and another choice follows
+    Place brace;      ///< an unmatched one that ends the text; without a file if there is none
     std::size_t text; ///< the number of the chosen text, a message of its own
 };
 

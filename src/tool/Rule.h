@@ -67,6 +67,7 @@ extern const Rule quoteVanishes;
 extern const Rule noDigitMark;
 extern const Rule zeroVanishes;
 extern const Rule decimalDigit;
+extern const Rule decimalQuote;
 extern const Rule implicitDecimals;
 extern const Rule percentTwice;
 extern const Rule dateLetter;

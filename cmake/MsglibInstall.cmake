@@ -5,7 +5,7 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 # The target of the program that compiles catalogues.
-set(MSGLIB_TOOL_TARGET msgtable)
+set(MSGLIB_TOOL_TARGET msglib_tool)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/msglib)
 

@@ -1,7 +1,7 @@
 // A desktop program of three modules, each with messages of its own: this program, a library that
 // it is linked to, and a plug-in that it opens at run time.
 
-#include "DesktopMessages.h"
+#include "DesktopMessagesCalls.h"
 #include "Ledger.h"
 #include "PlugIn.h"
 
@@ -18,16 +18,16 @@ using zem::msglib::MessageFormatStream;
 constexpr long long today = 1794576600; // 2026-11-13 13:30:00
 
 void welcome() {
-    std::cout << (MessageFormatStream(MSG_WELCOME) << "Zoë" << today).toString();
+    std::cout << DesktopMessages::MSG_WELCOME("Zoë", today).toString();
 }
 
 void copyFiles() {
     for (const int files : {0, 1, 1234567}) {
-        std::cout << (MessageFormatStream(MSG_COPIED) << files << "Übersicht 2026").toString();
+        std::cout << DesktopMessages::MSG_COPIED(files, "Übersicht 2026").toString();
     }
     // Two messages in one text, each with its own arguments.
-    std::cout << (MessageFormatStream(MSG_COPIED)
-                  << 3 << "/home/zoë" << MessageFormatStream(MSG_SKIPPED) << 2 << 0.985)
+    std::cout << (DesktopMessages::MSG_COPIED(3, "/home/zoë")
+                  << DesktopMessages::MSG_SKIPPED(2, 0.985))
                      .toString();
 }
 
@@ -54,6 +54,7 @@ void renderPatterns() {
               << '\n';
 }
 
+// The compiler refuses typed calls that would fail like these, so they are streams.
 void showFailures() {
     std::cout << '\n' << MessageFormatStream(MSG_NOT_OPENED).toString() << '\n';
     std::cout << MessageFormatStream(MSG_NOT_OPENED + 1).toString() << '\n';

@@ -1,8 +1,6 @@
 // Holds the documentation true: every row of its marked tables is what the library does.
-//
-// A line `<!-- checked: kind -->` marks the table behind it. The first three columns are a pattern,
-// the arguments, and what comes out: text in code quotes, the word nothing, or `fails: ` and words.
 
+#include "support/CheckedTables.h"
 #include "support/Rendering.h"
 #include "support/Wine.h"
 
@@ -13,10 +11,9 @@
 
 #include <geom/Angle.h>
 
-#include <boost/algorithm/string.hpp>
+#include <boost/algorithm/string/predicate.hpp>
 
 #include <cstdlib>
-#include <fstream>
 #include <iomanip>
 #include <list>
 #include <set>
@@ -27,28 +24,6 @@ namespace zem::msglib {
 namespace {
 
 using Arguments = std::list<boost::any>;
-
-/// Returns the cells of a table row. Inside a cell, "|" is written "\|".
-std::vector<std::string> cellsOf(const std::string& row) {
-    const std::string masked = boost::replace_all_copy(row.substr(1), "\\|", "\1");
-    std::vector<std::string> cells;
-    boost::split(cells, masked, [](char byte) { return byte == '|'; });
-    for (std::string& cell : cells) {
-        boost::trim(cell);
-        boost::replace_all(cell, "\1", "|");
-    }
-    return cells;
-}
-
-/// Returns a cell without its code quotes, with the bytes that it writes as "\xA4".
-std::string bytesOf(const std::string& cell) {
-    std::string text = cell == "nothing" ? "" : boost::erase_all_copy(cell, "`");
-    for (std::size_t at = 0; (at = text.find("\\x", at)) != std::string::npos; ++at) {
-        const int byte = std::stoi(text.substr(at + 2, 2), nullptr, 16);
-        text.replace(at, 4, 1, static_cast<char>(byte));
-    }
-    return text;
-}
 
 boost::any valueOf(const std::string& text) {
     if (text == "empty") {
@@ -123,30 +98,17 @@ void checkRow(const std::string& kind, const std::vector<std::string>& cells) {
 }
 
 /// Checks the marked tables of one page and returns how many rows they have.
-int checkPage(const std::string& path) {
-    const std::string mark = "<!-- checked: ";
-    std::ifstream page(path);
-    std::string kind;
-    int tableLine = 0;
-    int rows = 0;
-    int line = 1;
-    for (std::string text; std::getline(page, text); ++line) {
-        if (boost::starts_with(text, mark)) {
-            kind = text.substr(mark.size(), text.find(" -->") - mark.size());
-            tableLine = 0;
-        } else if (!boost::starts_with(text, "|")) {
-            kind.clear();
-        } else if (!kind.empty() && ++tableLine > 2) { // behind the head and its rule
-            const testing::ScopedTrace trace(path.c_str(), line, "");
-            checkRow(kind, cellsOf(text));
-            ++rows;
-        }
+std::size_t checkPage(const std::string& path) {
+    const std::vector<CheckedRow> rows = checkedRowsOf(path);
+    for (const CheckedRow& row : rows) {
+        const testing::ScopedTrace trace(path.c_str(), row.line, "");
+        checkRow(row.kind, row.cells);
     }
-    return rows;
+    return rows.size();
 }
 
 TEST(Docs, TablesAreTrue) {
-    const std::pair<const char*, int> fewestRows[] = {
+    const std::pair<const char*, std::size_t> fewestRows[] = {
         {"/message-patterns.md", 60}, {"/decimal-patterns.md", 60}, {"/choice-patterns.md", 25},
         {"/date-patterns.md", 30},    {"/failures.md", 14},
     };

@@ -1,6 +1,4 @@
-#include "BackupMessages.h"
-
-#include <msglib/MessageFormatStream.h>
+#include "BackupMessagesCalls.h"
 
 #include <string>
 
@@ -10,15 +8,13 @@
 #define PLUG_IN_API __attribute__((visibility("default")))
 #endif
 
-using zem::msglib::MessageFormatStream;
-
 extern "C" PLUG_IN_API void start() {
     registerBackupMessages();
 }
 
 extern "C" PLUG_IN_API void report(long long time, std::string& text) {
     constexpr int day = 24 * 60 * 60;
-    text = ((MessageFormatStream(MSG_BACKUP_DONE) << 1234 << 56789.04 << time)
-            << (MessageFormatStream(MSG_BACKUP_NEXT) << time + 7 * day))
+    text = (BackupMessages::MSG_BACKUP_DONE(1234, 56789.04, time)
+            << BackupMessages::MSG_BACKUP_NEXT(time + 7 * day))
                .toString();
 }

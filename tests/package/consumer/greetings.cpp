@@ -1,11 +1,8 @@
-#include "Greetings.h"
-
-#include <msglib/MessageFormatStream.h>
+#include "GreetingsCalls.h"
 
 #include <iostream>
 
 int main() {
-    using zem::msglib::MessageFormatStream;
     registerGreetings();
-    std::cout << (MessageFormatStream(MSG_GOOD_MORNING) << "world").toString();
+    std::cout << Greetings::MSG_GOOD_MORNING("world").toString();
 }

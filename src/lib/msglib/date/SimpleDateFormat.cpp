@@ -1,61 +1,17 @@
 #include "msglib/SimpleDateFormat.h"
 
-#include "base/Scanning.h"
 #include "base/TextOutput.h"
 #include "date/CalendarTime.h"
+#include "date/DateReader.h"
 #include "date/DateText.h"
 #include "date/RunRenderer.h"
 
-#include <algorithm>
-#include <climits>
-#include <cstdint>
 #include <utility>
 
 namespace zem::msglib {
 
-namespace {
-
-// What a byte of a pattern begins.
-enum class Mark : std::uint8_t { Literal, Quote, Date, Time };
-
-struct Marks {
-    Mark of[UCHAR_MAX + 1];
-};
-
-constexpr Marks marksFor(std::string_view dateLetters, std::string_view timeLetters) noexcept {
-    Marks marks{};
-    marks.of[static_cast<unsigned char>(quote)] = Mark::Quote;
-    for (const char letter : dateLetters) {
-        marks.of[static_cast<unsigned char>(letter)] = Mark::Date;
-    }
-    for (const char letter : timeLetters) {
-        marks.of[static_cast<unsigned char>(letter)] = Mark::Time;
-    }
-    return marks;
-}
-
-std::size_t endOfRun(std::string_view pattern, std::size_t pos) noexcept {
-    std::size_t end = pos + 1;
-    while (holdsAt(pattern, end, pattern[pos])) {
-        ++end;
-    }
-    return end;
-}
-
-// Appends quoted text from behind its opening quote and returns the position from which to go on.
-std::size_t appendQuoted(std::string_view pattern, std::size_t pos, TextOutput& out) {
-    const std::size_t end = std::min(pattern.find(quote, pos), pattern.size());
-    out.append(pattern.substr(pos, end - pos));
-    if (holdsAt(pattern, end + 1, quote)) {
-        out.append(quote);
-    }
-    return end + 1;
-}
-
-} // namespace
-
-constexpr std::string_view SimpleDateFormat::datePatternChars_ = "dMyg";
-constexpr std::string_view SimpleDateFormat::timePatternChars_ = "hHmst";
+constexpr std::string_view SimpleDateFormat::datePatternChars_ = dateLetters;
+constexpr std::string_view SimpleDateFormat::timePatternChars_ = timeLetters;
 
 SimpleDateFormat::SimpleDateFormat(const std::string& pattern, const std::locale& locale)
     : pattern_(pattern),
@@ -84,28 +40,22 @@ void SimpleDateFormat::write(const boost::any& value, TextOutput& out) const {
 }
 
 void appendDate(std::string_view pattern, const boost::any& value, TextOutput& out) {
-    static constexpr Marks marks =
-        marksFor(SimpleDateFormat::datePatternChars_, SimpleDateFormat::timePatternChars_);
     const auto seconds = readSeconds(value);
     const auto time = seconds ? calendarTime(*seconds) : std::nullopt;
     RunRenderer runs(time.value_or(platform::SYSTEMTIME()));
-    for (std::size_t pos = 0; pos < pattern.size();) {
-        const Mark mark = marks.of[static_cast<unsigned char>(pattern[pos])];
-        switch (mark) {
-        case Mark::Literal: out.append(pattern[pos++]); break;
-        case Mark::Quote: pos = appendQuoted(pattern, pos + 1, out); break;
-        case Mark::Date:
-        case Mark::Time: {
-            const std::size_t end = endOfRun(pattern, pos);
+    readDatePattern(pattern, [&](DatePiece piece, std::string_view text) {
+        switch (piece) {
+        case DatePiece::Literal: out.append(text.front()); break;
+        case DatePiece::Quoted: out.append(text); break;
+        case DatePiece::Date:
+        case DatePiece::Time:
             if (time) {
-                runs.append(mark == Mark::Date ? platform::GetDateFormatA
-                                               : platform::GetTimeFormatA,
-                            pattern[pos], end - pos, out);
+                runs.append(piece == DatePiece::Date ? platform::GetDateFormatA
+                                                     : platform::GetTimeFormatA,
+                            text.front(), text.size(), out);
             }
-            pos = end;
         }
-        }
-    }
+    });
 }
 
 } // namespace zem::msglib

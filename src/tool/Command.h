@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+namespace zem::msglib::tool {
+
+/// The exit status of the program.
+enum class ExitStatus { success = 0, errors = 1, cannotRun = 2 };
+
+/// What the chosen command does once the whole command line has been read.
+using Command = std::function<ExitStatus()>;
+
+// Each of these adds a command to the program. If it is chosen, it is put into `chosen`.
+
+void addCheckCommand(CLI::App& program, Command& chosen);
+void addCompileCommand(CLI::App& program, Command& chosen);
+void addExplainRuleCommand(CLI::App& program, Command& chosen);
+void addRulesCommand(CLI::App& program, Command& chosen);
+
+} // namespace zem::msglib::tool

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace zem::msglib::tool {
+
+/// Returns the bytes of a file, all of them.
+///
+/// @param path  of the file; `-` stands for standard input
+/// @throws CannotRun if it cannot be opened or read to its end
+std::string readBytes(const std::string& path);
+
+} // namespace zem::msglib::tool

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace zem::msglib::tool {
+
+/// Returns the number of characters (code points) of valid UTF-8.
+std::size_t characterCount(std::string_view utf8) noexcept;
+
+/// Returns the number of UTF-16 units that valid UTF-8 has.
+std::size_t utf16UnitCount(std::string_view utf8) noexcept;
+
+/// Returns the length of the longest valid UTF-8 at the start of `bytes`: their size if all of them
+/// are valid.
+std::size_t validUtf8Length(std::string_view bytes) noexcept;
+
+/// Takes the first character from valid UTF-8 that is not empty.
+char32_t takeCharacter(std::string_view& utf8) noexcept;
+
+} // namespace zem::msglib::tool

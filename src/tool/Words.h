@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zem::msglib::tool {
+
+/// Returns a part of a pattern for the words of a diagnostic, in backticks and shortened if it is
+/// long.
+std::string code(std::string_view text);
+
+/// Returns a text as users see it for the words of a diagnostic, in quotation marks and shortened
+/// if it is long.
+std::string shown(std::string_view text);
+
+/// Returns the text without blanks and line ends at its start and end.
+std::string_view withoutBlanks(std::string_view text) noexcept;
+
+constexpr bool isDigit(char byte) noexcept {
+    return byte >= '0' && byte <= '9';
+}
+
+constexpr bool isLetter(char byte) noexcept {
+    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+}
+
+} // namespace zem::msglib::tool

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace zem::msglib::tool {
+
+/// What a program has written, and its exit status.
+struct Outcome {
+    int status;
+    std::string output; ///< standard output and standard error
+};
+
+/// Gives every test an empty folder of its own, and removes it afterwards.
+class FolderTest : public testing::Test {
+protected:
+    void SetUp() override {
+        std::filesystem::remove_all(folder_);
+        std::filesystem::create_directories(folder_);
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+
+    /// Runs a command of the shell in the folder.
+    Outcome run(const std::string& command) const {
+        Outcome outcome{0, {}};
+        const std::string line = "{ cd '" + folder_.string() + "' && " + command + "\n} 2>&1";
+        FILE* const pipe = popen(line.c_str(), "r");
+        for (int byte = std::fgetc(pipe); byte != EOF; byte = std::fgetc(pipe)) {
+            outcome.output += static_cast<char>(byte);
+        }
+        const int status = pclose(pipe);
+        outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        return outcome;
+    }
+
+    std::string read(const std::filesystem::path& name) const {
+        std::ifstream in(folder_ / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+    void write(const std::filesystem::path& name, const std::string& bytes) const {
+        std::ofstream(folder_ / name, std::ios::binary) << bytes;
+    }
+
+    const std::filesystem::path folder_ =
+        std::filesystem::path(testing::TempDir()) /
+        (std::string("msglib_") +
+         testing::UnitTest::GetInstance()->current_test_info()->test_suite_name() + "_" +
+         testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+} // namespace zem::msglib::tool

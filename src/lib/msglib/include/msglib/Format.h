@@ -2,6 +2,10 @@
 
 #include "msglib/Export.h"
 
+#if !defined(__cpp_rtti) && !defined(__GXX_RTTI) && !defined(_CPPRTTI)
+#error "msglib needs run-time type information, by which it tells the type of an argument"
+#endif
+
 #include <boost/any.hpp>
 
 #include <string>

@@ -100,7 +100,7 @@ public:
     void setLocale(const std::locale& locale);
 
     /// Returns the locale; at first the one that was global when the object was made.
-    const std::locale& getLocale() const { return locale_; }
+    const std::locale& getLocale() const;
 
 private:
     friend class MessageRenderer;

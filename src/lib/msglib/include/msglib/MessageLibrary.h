@@ -1,6 +1,6 @@
 #pragma once
 
-#include "msglib/Export.h"
+#include "msglib/Format.h"
 
 #include <boost/any.hpp>
 
@@ -15,6 +15,12 @@ namespace zem::msglib {
 /// through streams.
 class MSGLIB_API IMessageLibrary {
 public:
+    IMessageLibrary() = default;
+    IMessageLibrary(const IMessageLibrary&) = default;
+    IMessageLibrary(IMessageLibrary&&) = default;
+    IMessageLibrary& operator=(const IMessageLibrary&) = default;
+    IMessageLibrary& operator=(IMessageLibrary&&) = default;
+
     /// Makes `facility` stand for the module that `address` lies in. The last registration of a
     /// number wins.
     ///
@@ -33,6 +39,10 @@ public:
 
     /// Returns the one message library, as `MessageLibrary::instance()` does.
     static IMessageLibrary& instance();
+
+protected:
+    /// Not virtual: nobody destroys a library through this interface.
+    ~IMessageLibrary() = default;
 };
 
 /// Finds messages by identifier in the tables of the registered modules, and renders them.

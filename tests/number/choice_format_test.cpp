@@ -6,7 +6,9 @@
 #include <cmath>
 #include <limits>
 #include <locale>
+#include <sstream>
 #include <stdexcept>
+#include <vector>
 
 namespace zem::msglib {
 namespace {
@@ -94,6 +96,63 @@ TEST(Extraction, ReadsWhatStandsInFrontByTheGlobalLocale) {
         EXPECT_EQ(extractDouble(row.text), row.real);
     }
     EXPECT_EQ(textOf(ChoiceFormat("0#few|0,5#some|1,5#many"), 1.0), "some");
+    std::locale::global(former);
+}
+
+// Reads every number as 42.
+struct Always42 : std::num_get<char> {
+    iter_type do_get(iter_type, iter_type end, std::ios_base&, std::ios_base::iostate& state,
+                     long& value) const override {
+        value = 42;
+        state |= std::ios_base::eofbit;
+        return end;
+    }
+};
+
+// Separates groups by a digit.
+struct DigitBetweenGroups : std::numpunct<char> {
+    char do_thousands_sep() const override { return '2'; }
+    std::string do_grouping() const override { return "\1"; }
+};
+
+// Takes a digit for white space.
+struct BlankDigit : std::ctype<char> {
+    BlankDigit() : std::ctype<char>(masks()) {}
+    static const mask* masks() {
+        static const std::vector<mask> changed = [] {
+            std::vector<mask> masks(classic_table(), classic_table() + table_size);
+            masks['1'] = space;
+            return masks;
+        }();
+        return changed.data();
+    }
+};
+
+TEST(Extraction, PlainDigitsAreDecimalUnderEveryGlobalLocale) {
+    const std::locale former;
+    const struct {
+        int line;
+        std::locale locale;
+        int signedNumber; ///< what the locale makes of "+123"
+        int plainNumber;  ///< what it makes of "123" in a stream
+    } rows[] = {
+        {__LINE__, std::locale(former, new Always42), 42, 42},
+        {__LINE__, std::locale(former, new DigitBetweenGroups), 13, 13},
+        {__LINE__, std::locale(former, new BlankDigit), 123, 23},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.line);
+        std::locale::global(row.locale);
+        int streamed = 0;
+        std::istringstream("123") >> streamed;
+        EXPECT_EQ(streamed, row.plainNumber);
+        int plain = 0;
+        int withSign = 0;
+        EXPECT_TRUE(extractInt("123", plain) && extractInt("+123", withSign));
+        EXPECT_EQ(plain, 123);
+        EXPECT_EQ(withSign, row.signedNumber);
+        EXPECT_EQ(extractDouble("123"), 123.0);
+    }
     std::locale::global(former);
 }
 

@@ -14,7 +14,8 @@ std::size_t readDigits(std::string_view text, std::size_t position, int& value) 
 /// the global `std::locale`: leading white space is skipped, and what follows the number is
 /// ignored.
 ///
-/// Plain digits take a short way to the same value.
+/// A text of one to nine ASCII digits and nothing else is their decimal value under every locale. A
+/// stream reads another one only if a facet of the global locale redefines plain digits.
 ///
 /// @return whether there is a number in the range of `int`; `value` is unchanged if not
 bool extractInt(std::string_view text, int& value);

@@ -89,4 +89,8 @@ void MessageFormat::setLocale(const std::locale& locale) {
     }
 }
 
+const std::locale& MessageFormat::getLocale() const {
+    return locale_;
+}
+
 } // namespace zem::msglib

@@ -109,7 +109,7 @@ public:
     void setLocale(const std::locale& locale);
 
     /// Returns the locale. It is at first the one that was global when the object was made.
-    const std::locale& getLocale() const { return locale_; }
+    const std::locale& getLocale() const;
 
 private:
     MessageFormat();

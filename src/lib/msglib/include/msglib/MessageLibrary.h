@@ -1,6 +1,6 @@
 #pragma once
 
-#include "msglib/Export.h"
+#include "msglib/Format.h"
 
 #include <boost/any.hpp>
 
@@ -15,6 +15,12 @@ namespace zem::msglib {
 /// needs no more than this.
 class MSGLIB_API IMessageLibrary {
 public:
+    IMessageLibrary() = default;
+    IMessageLibrary(const IMessageLibrary&) = default;
+    IMessageLibrary(IMessageLibrary&&) = default;
+    IMessageLibrary& operator=(const IMessageLibrary&) = default;
+    IMessageLibrary& operator=(IMessageLibrary&&) = default;
+
     /// Registers the module that `address` lies in for the messages of `facility`. The last
     /// registration of a number wins.
     ///
@@ -34,7 +40,7 @@ public:
     static IMessageLibrary& instance();
 
 protected:
-    // Nobody destroys the library through its interface.
+    /// Not virtual: nobody destroys a library through this interface.
     ~IMessageLibrary() = default;
 };
 

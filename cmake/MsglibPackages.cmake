@@ -16,6 +16,9 @@ endif()
 if(TARGET ${MSGLIB_TOOL_TARGET} AND NOT CMAKE_CROSSCOMPILING)
     list(APPEND CPACK_COMPONENTS_ALL Tools)
 endif()
+# Packages are installed below their own prefix, whatever that of the tree is.
+set(CPACK_SET_DESTDIR ON)
+set(CPACK_INSTALL_PREFIX /usr)
 # The folders of packages have these permissions, whatever umask they are made under.
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

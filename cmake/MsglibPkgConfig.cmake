@@ -1,10 +1,11 @@
-# Makes and installs msglib.pc. Its folders are relative to the file as far as they lie in the prefix, so that an installed
-# tree can be moved. Below /usr they are absolute: pkg-config leaves out the compiler's own folders only if they are spelled
-# so, and -isystem /usr/include would hide the C library from the C++ one. Which prefix it is, only the installation knows.
+# Makes msglib.pc, but for the prefix, which only the installation knows. Folders are relative to the prefix if they lie in it.
 
 set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 cmake_path(APPEND pc_libdir "\${prefix}" "${CMAKE_INSTALL_LIBDIR}")
 cmake_path(APPEND pc_includedir "\${prefix}" "${CMAKE_INSTALL_INCLUDEDIR}")
+foreach(folder pc_libdir pc_includedir)
+    string(REGEX REPLACE "([ '\"])" "\\\\\\1" ${folder} "${${folder}}")
+endforeach()
 
 get_target_property(type msglib TYPE)
 if(type STREQUAL "STATIC_LIBRARY")
@@ -21,20 +22,15 @@ list(REMOVE_DUPLICATES pc_private_libraries)
 list(TRANSFORM pc_private_libraries PREPEND "-l")
 list(JOIN pc_private_libraries " " pc_private_libraries)
 
-if(IS_ABSOLUTE ${pc_dir})
-    set(pc_prefix ${CMAKE_INSTALL_PREFIX})
-else()
-    file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_PREFIX}/${pc_dir} ${CMAKE_INSTALL_PREFIX})
-    string(PREPEND pc_prefix "\${pcfiledir}/")
+set(pc_relative_prefix)
+if(NOT IS_ABSOLUTE ${pc_dir})
+    file(RELATIVE_PATH pc_relative_prefix ${CMAKE_INSTALL_PREFIX}/${pc_dir} ${CMAKE_INSTALL_PREFIX})
 endif()
-configure_file(cmake/msglib.pc.in ${CMAKE_CURRENT_BINARY_DIR}/msglib.pc @ONLY)
-set(pc_prefix /usr)
-configure_file(cmake/msglib.pc.in ${CMAKE_CURRENT_BINARY_DIR}/usr/msglib.pc @ONLY)
-
-cmake_path(APPEND pc_destination "\${CMAKE_INSTALL_PREFIX}" "${pc_dir}")
+set(pc_prefix "@pc_prefix@")
+configure_file(cmake/msglib.pc.in ${CMAKE_CURRENT_BINARY_DIR}/msglib.pc.in @ONLY)
 install(CODE "
-    if(CMAKE_INSTALL_PREFIX STREQUAL \"/usr\")
-        set(usr usr/)
-    endif()
-    file(INSTALL \"${CMAKE_CURRENT_BINARY_DIR}/\${usr}msglib.pc\" DESTINATION \"${pc_destination}\")"
+    set(pc_folder [[${CMAKE_CURRENT_BINARY_DIR}]])
+    set(pc_dir [[${pc_dir}]])
+    set(pc_relative_prefix [[${pc_relative_prefix}]])"
     COMPONENT Development)
+install(SCRIPT cmake/InstallPkgConfig.cmake COMPONENT Development)

@@ -1,7 +1,7 @@
 # Message catalogues: from message text files to tables inside a module.
 
 include_guard(GLOBAL)
-cmake_policy(VERSION 3.25)
+cmake_policy(VERSION 3.22)
 
 # msglib_add_catalogue(<target> <file.mc>... [ENCODING <name>] [NAMESPACE <name>] [ALLOW <rule>...] [DENY <rule>...])
 #
@@ -79,9 +79,9 @@ function(_msglib_find_tool result)
     endif()
     find_program(MSGLIB_TOOL NAMES msglib NO_CMAKE_FIND_ROOT_PATH DOC "The program msglib, which compiles catalogues")
     if(NOT MSGLIB_TOOL)
-        message(FATAL_ERROR "msglib_add_catalogue: the program msglib is missing. It is built with the library where "
-            "MSGLIB_BUILD_TOOL is on and CLI11, nlohmann_json and iconv are there; in Debian's packages libcli11-dev and "
-            "nlohmann-json3-dev. The variable MSGLIB_TOOL can name one that runs on this machine.")
+        message(FATAL_ERROR "msglib_add_catalogue: the program msglib is missing. Debian has it in the package "
+            "msglib-tools. It is built with the library where MSGLIB_BUILD_TOOL is on and CLI11, nlohmann_json and iconv "
+            "are found. MSGLIB_TOOL can name one that runs on this machine.")
     endif()
     set(${result} "${MSGLIB_TOOL}" PARENT_SCOPE)
 endfunction()

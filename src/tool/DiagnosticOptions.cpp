@@ -16,14 +16,16 @@ namespace zem::msglib::tool {
 
 namespace {
 
+/// Returns the value of an environment variable; empty if there is none.
+std::string_view environment(const char* name) {
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
 bool showsColours(const std::string& color) {
-    const auto isSet = [](const char* name) {
-        const char* const value = std::getenv(name);
-        return value != nullptr && *value != '\0';
-    };
-    const bool isTerminal = isatty(STDERR_FILENO) == 1 && isSet("TERM") &&
-                            std::string_view(std::getenv("TERM")) != "dumb";
-    return color == "always" || (color == "auto" && isTerminal && !isSet("NO_COLOR"));
+    const std::string_view terminal = environment("TERM");
+    const bool isTerminal = isatty(STDERR_FILENO) == 1 && !terminal.empty() && terminal != "dumb";
+    return color == "always" || (color == "auto" && isTerminal && environment("NO_COLOR").empty());
 }
 
 } // namespace

@@ -82,7 +82,7 @@ private:
 
     SeverityPolicy policy_;
     std::vector<Diagnostic> diagnostics_;
-    std::vector<Allowance> allowances_; ///< by file and position, and they do not overlap but agree
+    std::vector<Allowance> allowances_; ///< in order once `take` has sorted them
 };
 
 /// Tells whether one of the diagnostics is an error.

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::size_t countSize = 4;
 constexpr std::size_t blockSize = 12;
-constexpr std::size_t entryHeaderSize = 4;
 constexpr std::size_t entryAlignment = 4;
 constexpr std::uint32_t utf16Flag = 1;
 

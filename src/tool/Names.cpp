@@ -51,8 +51,12 @@ std::optional<std::string_view> nearest(std::string_view word,
     std::optional<std::string_view> best;
     std::size_t least = (word.size() + 2) / 3 + 1;
     for (const std::string_view candidate : candidates) {
-        const std::size_t steps =
-            candidate.size() > longestWord ? least : distance(word, candidate);
+        const std::size_t longer = std::max(word.size(), candidate.size());
+        const std::size_t shorter = std::min(word.size(), candidate.size());
+        if (longer - shorter >= least) {
+            continue; // it takes as many insertions or deletions
+        }
+        const std::size_t steps = distance(word, candidate);
         if (steps < least) {
             least = steps;
             best = candidate;

@@ -78,9 +78,10 @@ const char* adviceFor(ValueKind used) {
 /// have no other.
 bool isParameterName(std::string_view word) {
     constexpr std::string_view generated = "argument";
-    const bool isGenerated = word.size() > generated.size() &&
-                             equalInAnyCase(word.substr(0, generated.size()), generated) &&
-                             word.find_first_not_of("0123456789", generated.size()) == word.npos;
+    const bool isGenerated =
+        word.size() > generated.size() &&
+        equalInAnyCase(word.substr(0, generated.size()), generated) &&
+        word.find_first_not_of("0123456789", generated.size()) == std::string_view::npos;
     return isIdentifier(word) && !isKeywordOfCpp(word) && !isMacroOfC(word) &&
            !isReservedForCompilers(word) && !isGenerated;
 }

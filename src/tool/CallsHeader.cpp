@@ -124,6 +124,14 @@ std::string demand(const std::vector<Parameter>& parameters) {
            });
 }
 
+void appendCheck(std::string& out, const std::string& condition, const std::string& words) {
+    out += "    static_assert(";
+    out += condition;
+    out += ", \"";
+    out += words;
+    out += "\");\n";
+}
+
 /// Appends the overload for the right number of arguments.
 void appendCall(std::string& out, const std::string& qualified, const CallSignature& signature) {
     const auto& parameters = signature.parameters;
@@ -145,9 +153,9 @@ void appendCall(std::string& out, const std::string& qualified, const CallSignat
         const Parameter& parameter = parameters[index];
         const std::string named =
             parameter.name.empty() ? "" : " (" + std::string(parameter.name) + ")";
-        out += "    static_assert(" + typeOf(parameter) + "::accepts<" + typeParameter(index) +
-               ">, \"" + qualified + ": argument " + std::to_string(index) + named + " must be " +
-               namesOf(parameter.kind).words + "\");\n";
+        const std::string words = qualified + ": argument " + std::to_string(index) + named +
+                                  " must be " + namesOf(parameter.kind).words;
+        appendCheck(out, typeOf(parameter) + "::accepts<" + typeParameter(index) + ">", words);
     }
     out += "    return ::zem::msglib::typed::stream<" +
            list(count, [&](std::size_t index) { return typeOf(parameters[index]); }) +
@@ -161,12 +169,11 @@ void appendCall(std::string& out, const std::string& qualified, const CallSignat
 /// Appends the overload that is left for calls that are wrong.
 void appendRefusal(std::string& out, const CallSignature& signature, const std::string& condition,
                    const std::string& words) {
-    out += "template <class... Arguments>\n" + std::string(streamType) + " " +
-           std::string(signature.symbol) +
-           "(const Arguments&...) {\n"
-           "    static_assert(" +
-           condition + ", \"" + words + "\");\n    return ::" + std::string(signature.symbol) +
-           ";\n}\n";
+    const std::string symbol(signature.symbol);
+    out += std::string("template <class... Arguments>\n") + streamType + " " + symbol +
+           "(const Arguments&...) {\n";
+    appendCheck(out, condition, words);
+    out += "    return ::" + symbol + ";\n}\n";
 }
 
 void appendFunction(std::string& out, const std::string& space, const CallSignature& signature) {

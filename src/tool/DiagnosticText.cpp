@@ -11,6 +11,7 @@ namespace {
 // How many characters of a line are shown, and how many of them at most before the place.
 constexpr std::size_t shownCharacters = 140;
 constexpr std::size_t shownBefore = 100;
+constexpr std::size_t longestShown = 4 * shownCharacters; // in bytes
 
 constexpr std::size_t numberWidth = 5;
 constexpr const char* ellipsis = "…";
@@ -38,34 +39,43 @@ void appendVisible(std::string& out, std::string_view utf8, char32_t character) 
     out += isControl && character != '\t' ? std::string_view("\uFFFD") : utf8;
 }
 
+/// Returns the position that is at most as many characters before another one.
+std::size_t charactersBack(std::string_view text, std::size_t position, std::size_t most) {
+    for (std::size_t count = 0; count < most && position > 0; ++count) {
+        do {
+            --position;
+        } while (position > 0 && (static_cast<unsigned char>(text[position]) & 0xC0) == 0x80);
+    }
+    return position;
+}
+
 /// The part of a line that is shown, and the blanks and carets below it.
 class Excerpt {
 public:
     explicit Excerpt(const Place& place) {
-        std::string_view line = place.file->lineAt(place.offset);
-        const std::size_t start = place.file->lineStart(place.offset);
-        const std::size_t column = characterCount(line.substr(0, place.offset - start));
+        const std::string_view line = place.file->lineAt(place.offset);
+        const std::size_t begin = place.offset - place.file->lineStart(place.offset);
+        const std::size_t first = charactersBack(line, begin, shownBefore);
+        const std::size_t column = characterCount(line.substr(first, begin - first));
         const std::size_t marked = std::max<std::size_t>(
-            characterCount(line.substr(place.offset - start, place.length)), 1);
-        const std::size_t first = column > shownBefore ? column - shownBefore : 0;
+            characterCount(line.substr(begin, std::min(place.length, longestShown))), 1);
         if (first > 0) {
             line_ += ellipsis;
             below_ += ' ';
         }
-        for (std::size_t index = 0; index < first + shownCharacters && !line.empty(); ++index) {
-            const std::string_view before = line;
-            const char32_t character = takeCharacter(line);
-            if (index >= first) {
-                appendVisible(line_, before.substr(0, before.size() - line.size()), character);
-            }
-            if (index >= first && index < column) {
+        std::string_view rest = line.substr(first);
+        for (std::size_t index = 0; index < shownCharacters && !rest.empty(); ++index) {
+            const std::string_view before = rest;
+            const char32_t character = takeCharacter(rest);
+            appendVisible(line_, before.substr(0, before.size() - rest.size()), character);
+            if (index < column) {
                 below_ += character == '\t' ? '\t' : ' ';
             }
         }
-        if (!line.empty()) {
+        if (!rest.empty()) {
             line_ += ellipsis;
         }
-        caret_ = '^' + std::string(std::min(marked, first + shownCharacters - column) - 1, '~');
+        caret_ = '^' + std::string(std::min(marked, shownCharacters - column) - 1, '~');
     }
 
     void appendTo(std::string& out, std::size_t lineNumber, const Colours& colours) const {

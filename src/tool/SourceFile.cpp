@@ -7,6 +7,12 @@
 
 namespace zem::msglib::tool {
 
+namespace {
+
+constexpr std::size_t blockSize = 512;
+
+} // namespace
+
 SourceFile::SourceFile(std::string name, std::string text, std::size_t number)
     : name_(std::move(name)),
       text_(std::move(text)),
@@ -16,12 +22,23 @@ SourceFile::SourceFile(std::string name, std::string text, std::size_t number)
          end = text_.find('\n', end + 1)) {
         lineStarts_.push_back(end + 1);
     }
+    std::size_t count = 0;
+    for (std::size_t begin = 0; begin <= text_.size(); begin += blockSize) {
+        characters_.push_back(count);
+        count += characterCount(this->text().substr(begin, blockSize));
+    }
 }
 
 SourceFile::Position SourceFile::positionOf(std::size_t offset) const noexcept {
     const std::size_t index = lineIndex(offset);
     const std::size_t start = lineStarts_[index];
-    return {index + 1, characterCount(text().substr(start, offset - start)) + 1};
+    return {index + 1, charactersBefore(offset) - charactersBefore(start) + 1};
+}
+
+std::size_t SourceFile::charactersBefore(std::size_t offset) const noexcept {
+    const std::size_t block = offset / blockSize;
+    const std::size_t begin = block * blockSize;
+    return characters_[block] + characterCount(text().substr(begin, offset - begin));
 }
 
 std::size_t SourceFile::lineStart(std::size_t offset) const noexcept {
@@ -29,8 +46,11 @@ std::size_t SourceFile::lineStart(std::size_t offset) const noexcept {
 }
 
 std::string_view SourceFile::lineAt(std::size_t offset) const noexcept {
-    const std::size_t start = lineStart(offset);
-    return text().substr(start, std::min(text_.find('\n', start), text_.size()) - start);
+    const std::size_t index = lineIndex(offset);
+    const std::size_t start = lineStarts_[index];
+    const std::size_t end =
+        index + 1 < lineStarts_.size() ? lineStarts_[index + 1] - 1 : text_.size();
+    return text().substr(start, end - start);
 }
 
 std::size_t SourceFile::lineIndex(std::size_t offset) const noexcept {

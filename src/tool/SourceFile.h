@@ -42,11 +42,14 @@ public:
 
 private:
     std::size_t lineIndex(std::size_t offset) const noexcept;
+    std::size_t charactersBefore(std::size_t offset) const noexcept;
 
     std::string name_;
     std::string text_;
     std::size_t number_;
     std::vector<std::size_t> lineStarts_;
+    std::vector<std::size_t>
+        characters_; // before each block, so that columns of long lines are fast
 };
 
 /// Some bytes of a source file, such as those that a diagnostic is about.

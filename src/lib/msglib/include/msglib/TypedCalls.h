@@ -22,18 +22,19 @@
 /// A kind is a class of two members: `accepts<Value>` is whether values of the type are of the
 /// kind, and `add` appends one to a stream.
 ///
-/// | Kind      | Values                                                                        |
-/// |-----------|-------------------------------------------------------------------------------|
+/// | Kind      | Values                                                                         |
+/// |-----------|--------------------------------------------------------------------------------|
 /// | `Number`  | arithmetic types, but of the character types only `signed` and `unsigned char` |
-/// | `Time`    | `std::chrono::system_clock` times; seconds, as a number other than `bool`     |
-/// | `Seconds` | numbers other than `bool`: for an argument that is used as number and as time |
-/// | `Text`    | what converts to `std::string_view`                                           |
-/// | `Any`     | numbers, texts, and whatever else can be streamed, but no other stream        |
+/// | `Time`    | `std::chrono::system_clock` times; seconds, as a number other than `bool`      |
+/// | `Seconds` | numbers other than `bool`: for an argument that is used as number and as time  |
+/// | `Text`    | what converts to `std::string_view`                                            |
+/// | `Any`     | numbers, texts, and whatever else can be streamed, but no other stream         |
 ///
 /// Enumerations are no numbers; unscoped ones can be streamed. `nullptr` is of no kind. A `const
 /// char*` must not be null.
 namespace zem::msglib::typed {
 
+/// Whether a type holds a character, so that it is no number although it is arithmetic.
 template <class Value>
 inline constexpr bool isCharacter = false;
 template <>
@@ -49,12 +50,14 @@ template <>
 inline constexpr bool isCharacter<char8_t> = true;
 #endif
 
+/// Whether a type is a time of the system's clock, of any precision.
 template <class Value>
 inline constexpr bool isSystemTime = false;
 template <class Duration>
 inline constexpr bool isSystemTime<std::chrono::time_point<std::chrono::system_clock, Duration>> =
     true;
 
+/// Whether a stream of a message takes values of a type as arguments; other streams are none.
 template <class Value, class = void>
 inline constexpr bool isStreamable = false;
 template <class Value>
@@ -155,6 +158,7 @@ struct Any {
     }
 };
 
+/// Adds a value as its kind does, or nothing if the kind does not accept it.
 template <class Kind, class Value>
 void addAccepted(MessageFormatStream& stream, const Value& value) {
     if constexpr (Kind::template accepts<Value>) {
@@ -168,8 +172,8 @@ inline constexpr bool never = false;
 
 /// Returns the stream of a message with its arguments, each added as its kind does.
 ///
-/// A value that its kind does not accept adds nothing: the caller has refused it, and no second
-/// error hides the first.
+/// A value that its kind does not accept adds nothing: the caller has refused it, and this gives no
+/// second error.
 template <class... Kinds, class... Values>
 inline MessageFormatStream stream(unsigned int messageId, const Values&... values) {
     MessageFormatStream result(messageId); // returned in place; what << returns would be copied

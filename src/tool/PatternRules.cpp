@@ -7,7 +7,7 @@ namespace zem::msglib::tool::rules {
 const Rule syntax = {
     "syntax",
     Severity::error,
-    false,
+    true,
     "what does not compile, in any branch of any choice",
     "The library refuses the pattern. By identifier, users read the words of the failure in\n"
     "place of the message; with a literal pattern, they are an exception. The text of a\n"

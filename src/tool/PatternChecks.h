@@ -3,9 +3,6 @@
 #include "Diagnostics.h"
 #include "PatternTree.h"
 
-#include <cstddef>
-#include <set>
-
 namespace zem::msglib::tool {
 
 // Each of these checks one subject in a pattern and in the texts of all its choices.

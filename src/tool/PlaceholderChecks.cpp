@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <set>
 #include <string>
 #include <utility>
 

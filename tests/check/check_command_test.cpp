@@ -65,7 +65,7 @@ TEST_F(CheckCommand, ObeysAllowAndDeny) {
     EXPECT_EQ(run(PROGRAM " check --pattern '{0,Number}' --deny warnings").status, 1);
     EXPECT_EQ(run(PROGRAM " check --pattern '{0,Number}' --deny unknown-type").status, 1);
     EXPECT_EQ(run(PROGRAM " check --pattern '{0,Number}' --allow unknown-type").output, "");
-    EXPECT_EQ(run(PROGRAM " check --pattern '{x}' --allow syntax").status, 2);
+    EXPECT_EQ(run(PROGRAM " check --pattern '{x}' --allow file-syntax").status, 2);
     EXPECT_EQ(run(PROGRAM " check --pattern '{0}{2}'").output, "");
     EXPECT_EQ(run(PROGRAM " check --pattern '{0}{2}' --deny unused-argument").status, 1);
 }

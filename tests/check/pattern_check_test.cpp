@@ -40,12 +40,12 @@ TEST(PatternCheck, PointsAtWhatIsWrong) {
          "1:15-16 syntax: Syntax error in choice format (a choice is a number, `#` or `<`, and a "
          "text, as in `0#none`)\n"},
         {__LINE__, "{0,choice,0#a|1#{0,number,0 EUR}}",
-         "1:27-32 syntax: separator character expected (an `E` begins an exponent; for the letter "
+         "1:29-30 syntax: separator character expected (an `E` begins an exponent; for the letter "
          "write `0 '''E'''UR`)\n"},
         {__LINE__, "{0,number,0%%}",
-         "1:11-14 syntax: multiplier already set (one `%` after the digits multiplies by 100, as "
+         "1:13-14 syntax: multiplier already set (one `%` after the digits multiplies by 100, as "
          "in `0%`)\n"},
-        {__LINE__, "{0,number,0.0.0}", "1:11-16 syntax: separator character expected\n"},
+        {__LINE__, "{0,number,0.0.0}", "1:14-15 syntax: separator character expected\n"},
         {__LINE__, "{0,choice,0#{1,choice,0#{x}|1#''}}",
          "1:26-27 syntax: Illegal argument in format string (arguments have numbers, counted from "
          "0: `{0}`) (braces in a choice have to match; to show one alone, pass it as an "

@@ -52,7 +52,6 @@ set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME msglib-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS binutils-mingw-w64-x86-64)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
     "The program that compiles message catalogues into modules, called by the\nCMake function msglib_add_catalogue.")
 

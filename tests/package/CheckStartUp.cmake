@@ -1,7 +1,7 @@
 # Fails if one of OBJECTS, comma-separated, or LIBRARY, if there is one, runs code of its own when it is loaded. Whatever the
 # order of a program's static objects is, the library is then ready before the first of them.
 
-cmake_minimum_required(VERSION 3.25)
+cmake_minimum_required(VERSION 3.22)
 string(REPLACE "," ";" objects "${OBJECTS}")
 
 # Stores the size of the lists of start-up functions in `file`, as lines of hexadecimal numbers.

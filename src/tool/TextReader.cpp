@@ -73,7 +73,7 @@ bool obey(const CommentDirective& directive, const Place& message, std::set<cons
     }
     if (directive.verb.text() != "allow" || directive.arguments.empty()) {
         diagnostics.report(rules::fileSyntax, directive.verb,
-                           "a comment can ask for \"allow RULE\" or \"no-line-end\"");
+                           R"(a comment can ask for "allow RULE" or "no-line-end")");
         return false;
     }
     for (const Place& name : directive.arguments) {

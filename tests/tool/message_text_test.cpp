@@ -250,13 +250,13 @@ TEST_F(MessageTextTest, ReadsEncodings) {
 TEST_F(MessageTextTest, ReadsManyMessages) {
     std::string file = "FacilityNames=(F=5 G=0xFFE)\n";
     std::string meaning = "[0409]\n";
-    for (const std::string facility : {"F", "G"}) {
-        for (int code = 1; code < 60000; ++code) {
-            file += "MessageId=" + std::to_string(code) + " Facility=" + facility + text;
-            meaning +=
-                hexadecimal((facility == "F" ? 0x50000U : 0xFFE0000U) + static_cast<unsigned>(code))
-                    .substr(2) +
-                " x\\r\\n\n";
+    for (const std::uint32_t facility : {5U, 0xFFEU}) {
+        for (std::uint32_t code = 1; code < 60000; ++code) {
+            file += "MessageId=" + std::to_string(code);
+            file += facility == 5 ? " Facility=F" : " Facility=G";
+            file += text;
+            meaning += hexadecimal(facility << 16 | code).substr(2);
+            meaning += " x\\r\\n\n";
         }
     }
     EXPECT_TRUE(ours(file) == meaning);

@@ -18,6 +18,9 @@ void checkArguments(const PatternTree& tree, Diagnostics& diagnostics) {
                 highest == nullptr || placeholder.index > highest->index ? &placeholder : highest;
         }
     }
+    if (highest == nullptr) {
+        return;
+    }
     int expected = 0;
     for (const int index : used) {
         if (index > expected) {

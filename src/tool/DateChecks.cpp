@@ -22,9 +22,9 @@ namespace {
 /// A letter that is a field in other languages of date patterns.
 struct ForeignLetter {
     char letter;
-    std::size_t fewest; ///< in a run; shorter ones are more probably text
+    char field;         ///< what the advice names; none if there is no such field
+    std::size_t fewest; ///< of the letter in a run; shorter ones are more probably text
     std::string_view advice;
-    char field = '\0'; ///< what the advice names; none if there is no such field
     std::size_t shortest = 1;
     std::size_t longest = 1;
 };
@@ -34,27 +34,27 @@ constexpr std::string_view noFraction = "there are no fractions of a second";
 constexpr std::string_view noWeek = "there are no weeks";
 
 constexpr ForeignLetter foreignLetters[] = {
-    {'a', 1, "the marker is ", 't', 2, 2},
-    {'E', 1, "the day's name is ", 'd', 3, 4},
-    {'e', 3, "the day's name is ", 'd', 3, 4},
-    {'c', 3, "the day's name is ", 'd', 3, 4},
-    {'Y', 1, "the year is ", 'y', 1, 4},
-    {'u', 4, "the year is ", 'y', 4, 4},
-    {'D', 1, "the day of the month is ", 'd', 1, 2},
-    {'L', 1, "the month is ", 'M', 1, 4},
-    {'k', 1, "the hour of 24 is ", 'H', 1, 2},
-    {'K', 1, "the hour of 12 is ", 'h', 1, 2},
-    {'G', 1, "the era is ", 'g', 1, 1},
-    {'S', 1, noFraction},
-    {'f', 2, noFraction},
-    {'F', 2, noFraction},
-    {'z', 1, noZone},
-    {'Z', 1, noZone},
-    {'X', 1, noZone},
-    {'x', 2, noZone},
-    {'w', 1, noWeek},
-    {'W', 1, noWeek},
-    {'Q', 1, "there are no quarters"},
+    {'a', 't', 1, "the marker is ", 2, 2},
+    {'E', 'd', 1, "the day's name is ", 3, 4},
+    {'e', 'd', 3, "the day's name is ", 3, 4},
+    {'c', 'd', 3, "the day's name is ", 3, 4},
+    {'Y', 'y', 1, "the year is ", 1, 4},
+    {'u', 'y', 4, "the year is ", 4, 4},
+    {'D', 'd', 1, "the day of the month is ", 1, 2},
+    {'L', 'M', 1, "the month is ", 1, 4},
+    {'k', 'H', 1, "the hour of 24 is ", 1, 2},
+    {'K', 'h', 1, "the hour of 12 is ", 1, 2},
+    {'G', 'g', 1, "the era is ", 1, 1},
+    {'S', '\0', 1, noFraction},
+    {'f', '\0', 2, noFraction},
+    {'F', '\0', 2, noFraction},
+    {'z', '\0', 1, noZone},
+    {'Z', '\0', 1, noZone},
+    {'X', '\0', 1, noZone},
+    {'x', '\0', 2, noZone},
+    {'w', '\0', 1, noWeek},
+    {'W', '\0', 1, noWeek},
+    {'Q', '\0', 1, "there are no quarters"},
 };
 
 /// Returns what to write in place of a run of a foreign letter, or why there is nothing.

@@ -83,12 +83,12 @@ std::string rulePage() {
     std::string page(pageHead);
     page += "\n| Rule | Severity | Reports |\n|---|---|---|\n";
     for (const Rule* const rule : allRules()) {
-        const std::string name(rule->name);
-        page += "| [" + name + "](#" + name + ") | " + severityOf(*rule) + " | " +
-                std::string(rule->summary) + " |\n";
+        page.append("| [").append(rule->name).append("](#").append(rule->name).append(") | ");
+        page.append(severityOf(*rule)).append(" | ").append(rule->summary).append(" |\n");
     }
     for (const Rule* const rule : allRules()) {
-        page += "\n## " + std::string(rule->name) + "\n\n" + std::string(rule->explanation) + '\n';
+        page.append("\n## ").append(rule->name).append("\n\n");
+        page.append(rule->explanation).append("\n");
         if (isFile(rule->wrong)) {
             page += "\nWrong:\n\n" + indented(rule->wrong, "    ") + "\nRight:\n\n" +
                     indented(rule->right, "    ");

@@ -98,7 +98,8 @@ void MessageRenderer::renderStyled(PlaceholderReader& reader, std::string_view t
     const std::string_view text = chosen.text();
     Frame frame{std::move(chosen.isCopy() ? chosen : copy), nullptr, reader, out_.size()};
     const BraceIndex* braces = reader.braces();
-    if (braces == nullptr && frames_.size() >= fewLevels && text.find(quote) == text.npos) {
+    if (braces == nullptr && frames_.size() >= fewLevels &&
+        text.find(quote) == std::string_view::npos) {
         frame.braces = std::make_unique<BraceIndex>(text);
         braces = frame.braces.get();
     }

@@ -36,8 +36,12 @@ public:
     /// @throws std::runtime_error as `applyPattern` does
     ChoiceFormat(const std::string& pattern);
 
+    /// Copies everything; the copy is independent.
     ChoiceFormat(const ChoiceFormat& other);
+
+    /// Copies everything; the copy is independent. Assigning an object to itself changes nothing.
     ChoiceFormat& operator=(const ChoiceFormat& other);
+
     ~ChoiceFormat() override;
 
     /// Replaces the compiled pattern by that of `pattern`.

@@ -49,8 +49,12 @@ public:
     /// @throws std::runtime_error as `applyPattern` does
     DecimalFormat(const std::string& pattern, DecimalFormatSymbols&& symbols);
 
+    /// Copies everything; the copy is independent.
     DecimalFormat(const DecimalFormat& other);
+
+    /// Copies everything; the copy is independent. Assigning an object to itself changes nothing.
     DecimalFormat& operator=(const DecimalFormat& other);
+
     ~DecimalFormat() override;
 
     /// Replaces the compiled pattern by that of `pattern`. Compiling overwrites what the setters

@@ -23,10 +23,18 @@ public:
     ///     DecimalFormatSymbols().getGroupingSeparator() -> ","
     DecimalFormatSymbols(const std::locale& locale = std::locale());
 
+    /// Copies everything; the copy is independent.
     DecimalFormatSymbols(const DecimalFormatSymbols& other);
+
+    /// Takes everything from `other`.
     DecimalFormatSymbols(DecimalFormatSymbols&& other) noexcept;
+
+    /// Copies everything; the copy is independent. Assigning an object to itself changes nothing.
     DecimalFormatSymbols& operator=(const DecimalFormatSymbols& other);
+
+    /// Takes everything from `other`.
     DecimalFormatSymbols& operator=(DecimalFormatSymbols&& other) noexcept;
+
     ~DecimalFormatSymbols();
 
     /// The local currency symbol; starts as "$".

@@ -45,8 +45,12 @@ public:
     /// Keeps `pattern`, moved into the object, and `locale`.
     SimpleDateFormat(std::string&& pattern, const std::locale& locale);
 
+    /// Copies everything; the copy is independent.
     SimpleDateFormat(const SimpleDateFormat& other);
+
+    /// Copies everything; the copy is independent. Assigning an object to itself changes nothing.
     SimpleDateFormat& operator=(const SimpleDateFormat& other);
+
     ~SimpleDateFormat() override;
 
     /// Replaces the pattern.

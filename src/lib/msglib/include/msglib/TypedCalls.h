@@ -37,15 +37,20 @@ namespace zem::msglib::typed {
 /// Whether a type holds a character, so that it is no number although it is arithmetic.
 template <class Value>
 inline constexpr bool isCharacter = false;
+/// A character type.
 template <>
 inline constexpr bool isCharacter<char> = true;
+/// A character type.
 template <>
 inline constexpr bool isCharacter<wchar_t> = true;
+/// A character type.
 template <>
 inline constexpr bool isCharacter<char16_t> = true;
+/// A character type.
 template <>
 inline constexpr bool isCharacter<char32_t> = true;
 #if defined(__cpp_char8_t)
+/// A character type.
 template <>
 inline constexpr bool isCharacter<char8_t> = true;
 #endif
@@ -74,6 +79,7 @@ struct Number {
                                     (std::is_integral_v<Value> && !isCharacter<Value> &&
                                      sizeof(Value) <= sizeof(long long));
 
+    /// Adds a value that is accepted as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, Value value) {
         if constexpr (std::is_floating_point_v<Value>) {
@@ -90,6 +96,7 @@ struct Number {
 
 /// A point in time as seconds since 1970-01-01 00:00:00, which may also be used as a number.
 struct Seconds {
+    /// Whether values of a type are accepted.
     template <class Value>
     static constexpr bool accepts = Number::accepts<Value> && !std::is_same_v<Value, bool>;
 
@@ -109,9 +116,11 @@ struct Seconds {
 /// A point in time: `Seconds`, or a time of the system's clock in any unit, rounded down to whole
 /// seconds.
 struct Time {
+    /// Whether values of a type are accepted.
     template <class Value>
     static constexpr bool accepts = Seconds::accepts<Value> || isSystemTime<Value>;
 
+    /// Adds a value that is accepted as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, const Value& value) {
         if constexpr (isSystemTime<Value>) {
@@ -125,10 +134,12 @@ struct Time {
 
 /// A text, of which the stream keeps a copy.
 struct Text {
+    /// Whether values of a type are accepted.
     template <class Value>
     static constexpr bool accepts =
         std::is_convertible_v<const Value&, std::string_view> && !std::is_null_pointer_v<Value>;
 
+    /// Adds a value that is accepted as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, const Value& value) {
         if constexpr (std::is_same_v<Value, std::string> || !std::is_class_v<Value>) {
@@ -142,10 +153,12 @@ struct Text {
 
 /// A value that the message shows as it is.
 struct Any {
+    /// Whether values of a type are accepted.
     template <class Value>
     static constexpr bool accepts = Number::accepts<Value> || Text::accepts<Value> ||
                                     (isStreamable<Value> && !std::is_null_pointer_v<Value>);
 
+    /// Adds a value that is accepted as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, const Value& value) {
         if constexpr (Number::accepts<Value>) {

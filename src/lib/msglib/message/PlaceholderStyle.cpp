@@ -86,7 +86,7 @@ void buildCustomNumber(FormatElement& element, const std::locale& locale) {
 
 // The classic locale needs no lock, and none has a part in the text.
 void appendCustomNumber(std::string_view style, const boost::any& argument, TextOutput& out) {
-    const DecimalFormat format(std::string(style), DecimalFormatSymbols(std::locale::classic()));
+    const DecimalFormat format(std::string{style}, DecimalFormatSymbols(std::locale::classic()));
     DecimalForm(format).appendArgument(argument, out);
 }
 

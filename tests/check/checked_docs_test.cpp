@@ -18,7 +18,7 @@ constexpr const char* pages[] = {"/message-patterns.md", "/choice-patterns.md", 
 
 /// Returns the pattern of a row as a message; those of formatters become a style.
 std::string messageOf(const CheckedRow& row) {
-    const std::string pattern = bytesOf(row.cells[0]);
+    std::string pattern = bytesOf(row.cells[0]);
     if (row.kind == "message") {
         return pattern;
     }

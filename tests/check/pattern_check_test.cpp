@@ -114,7 +114,10 @@ TEST(PatternCheck, IsSilentAboutWhatIsMeant) {
          ""},
         {__LINE__, "{0,time,HH:mm}{0,time,h:mm tt}{0,time,mm}{0,date,MMMM}{0,date,d 'de' MMMM}",
          ""},
-        {__LINE__, "{0,time,mm:ss}{0,time,kl. HH:mm}{0,date,d/M HH:mm}{0,date,MMMM HH:mm}", ""},
+        {__LINE__,
+         "{0,time,mm:ss}{0,time,kl. HH:mm}{0,date,d/M HH:mm}{0,date,HH:mm dd.MM.yyyy}{0,date,MMMM "
+         "HH:mm}",
+         ""},
         {__LINE__, "{0,date,short}{0,date,full}{0,number,percent} {0,time}", ""},
         {__LINE__, "{0,choice,0#{1,date,d ''''de'''' MMMM}}{0,number,0 o'clock}{0,number,''0''}",
          ""},
@@ -183,7 +186,7 @@ TEST(PatternCheck, CountsApostrophesByTrying) {
               std::string::npos);
     std::string deep = "it's x";
     for (int level = 0; level < 12; ++level) {
-        deep = "{0,choice,0#" + deep + "}";
+        deep.insert(0, "{0,choice,0#").append("}");
     }
     EXPECT_NE(diagnosed(deep).find("(write ’ (U+2019))"), std::string::npos) << diagnosed(deep);
 }

@@ -1,5 +1,5 @@
 // Reads a pattern by the readers of the library, text by text. The texts of choices are queued
-// behind those that are there, so that the nesting of a pattern is that of no call.
+// after those that are there, so that the nesting of a pattern is not that of calls.
 
 #include "PatternTree.h"
 

@@ -2,7 +2,7 @@
 
 // The example tables of the documentation, which tests hold true.
 //
-// A line `<!-- checked: kind -->` marks the table behind it. The first three columns are a pattern,
+// A line `<!-- checked: kind -->` marks the table after it. The first three columns are a pattern,
 // the arguments, and what comes out: text in code quotes, the word nothing, or `fails: ` and words.
 
 #include <boost/algorithm/string.hpp>
@@ -59,7 +59,7 @@ inline std::vector<CheckedRow> checkedRowsOf(const std::string& path) {
         } else if (!boost::starts_with(text, "|")) {
             section = boost::starts_with(text, "## ") ? text.substr(3) : section;
             kind.clear();
-        } else if (!kind.empty() && ++tableLine > 2) { // behind the head and its rule
+        } else if (!kind.empty() && ++tableLine > 2) { // after the head and its rule
             rows.push_back({line, section, kind, cellsOf(text)});
         }
     }

@@ -2,14 +2,14 @@
 
 #include "Properties.h"
 
-#include "CatalogueReader.h"
-#include "CatalogueRules.h"
-#include "DiagnosticJson.h"
-#include "DiagnosticText.h"
-#include "GeneratedSources.h"
-#include "MessageTable.h"
-#include "Unicode.h"
 #include "platform/portable/TableReader.h"
+#include "tool/catalogue/CatalogueReader.h"
+#include "tool/checks/CatalogueRules.h"
+#include "tool/diagnostics/DiagnosticJson.h"
+#include "tool/diagnostics/DiagnosticText.h"
+#include "tool/generated/GeneratedSources.h"
+#include "tool/generated/MessageTable.h"
+#include "tool/text/Unicode.h"
 
 #include <boost/locale/encoding_utf.hpp>
 

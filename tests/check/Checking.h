@@ -1,7 +1,7 @@
 #pragma once
 
-#include "PatternChecks.h"
 #include "tool/Reading.h"
+#include "tool/checks/PatternChecks.h"
 
 #include <string>
 #include <string_view>

@@ -1,9 +1,9 @@
 // The check over the examples of the documentation: what fails there for its syntax is an error,
 // and what surprises has a diagnostic, or is listed below as what deserves none.
 
-#include "Unicode.h"
 #include "check/Checking.h"
 #include "support/CheckedTables.h"
+#include "tool/text/Unicode.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // The rules' own table: its examples are true, and the documentation is made from it.
 
-#include "MessageChecks.h"
-#include "Rule.h"
-#include "RulePage.h"
 #include "check/Checking.h"
+#include "tool/checks/MessageChecks.h"
+#include "tool/diagnostics/Rule.h"
+#include "tool/diagnostics/RulePage.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Diagnostics.h"
-#include "PatternChecks.h"
-#include "PatternTree.h"
-#include "Unicode.h"
+#include "tool/checks/PatternChecks.h"
+#include "tool/diagnostics/Diagnostics.h"
+#include "tool/pattern/PatternTree.h"
+#include "tool/text/Unicode.h"
 
 #include "msglib/ChoiceFormat.h"
 #include "msglib/MessageFormat.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Catalogue.h"
-#include "CatalogueReader.h"
-#include "CatalogueRules.h"
-#include "Diagnostics.h"
+#include "tool/catalogue/Catalogue.h"
+#include "tool/catalogue/CatalogueReader.h"
+#include "tool/checks/CatalogueRules.h"
+#include "tool/diagnostics/Diagnostics.h"
 
 #include <string>
 #include <utility>

@@ -1,7 +1,7 @@
 // What concerns several messages, over all files that are checked together, and what silences it.
 
-#include "CannotRun.h"
 #include "tool/Reading.h"
+#include "tool/text/CannotRun.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // The forms in which diagnostics are written.
 
-#include "DiagnosticJson.h"
-#include "DiagnosticText.h"
 #include "tool/Reading.h"
+#include "tool/diagnostics/DiagnosticJson.h"
+#include "tool/diagnostics/DiagnosticText.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

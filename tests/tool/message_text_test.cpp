@@ -4,9 +4,9 @@
 #include "tool/Program.h"
 #include "tool/Reading.h"
 
-#include "GeneratedSources.h"
-#include "MessageTable.h"
 #include "platform/portable/Bytes.h"
+#include "tool/generated/GeneratedSources.h"
+#include "tool/generated/MessageTable.h"
 
 #include <algorithm>
 #include <regex>

@@ -3,9 +3,9 @@
 
 #include "tool/Reading.h"
 
-#include "CallSignatures.h"
-#include "CallsHeader.h"
-#include "SourceReader.h"
+#include "tool/catalogue/CallSignatures.h"
+#include "tool/catalogue/SourceReader.h"
+#include "tool/generated/CallsHeader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tool/catalogue/Catalogue.h"
+#include "tool/catalogue/SourceReader.h"
+#include "tool/diagnostics/Diagnostics.h"
+
+#include <string>
+#include <vector>
+
+namespace zem::msglib::tool {
+
+/// Reads the messages of a file, and reports all that the format does not allow. It takes time in
+/// proportion to the file's size.
+///
+/// @return what could be read, which is nothing of a file that is not whole
+Catalogue readCatalogue(ReadSource source, Diagnostics& diagnostics);
+
+/// Reads several files, in their order.
+///
+/// @param encoding  of files without a mark that are not UTF-16; empty for UTF-8
+/// @throws CannotRun if a file cannot be read or there is no such encoding
+std::vector<Catalogue> readCatalogues(const std::vector<std::string>& paths,
+                                      const std::string& encoding, Diagnostics& diagnostics);
+
+} // namespace zem::msglib::tool

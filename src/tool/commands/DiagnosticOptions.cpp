@@ -1,0 +1,62 @@
+#include "tool/commands/DiagnosticOptions.h"
+
+#include "tool/diagnostics/DiagnosticJson.h"
+#include "tool/diagnostics/DiagnosticText.h"
+#include "tool/text/CannotRun.h"
+
+#include <CLI/CLI.hpp>
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+namespace zem::msglib::tool {
+
+namespace {
+
+/// Returns the value of an environment variable; empty if there is none.
+std::string_view environment(const char* name) {
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+bool showsColours(const std::string& color) {
+    const std::string_view terminal = environment("TERM");
+    const bool isTerminal = isatty(STDERR_FILENO) == 1 && !terminal.empty() && terminal != "dumb";
+    return color == "always" || (color == "auto" && isTerminal && environment("NO_COLOR").empty());
+}
+
+} // namespace
+
+void DiagnosticOptions::addTo(CLI::App& command, const std::string& formOption) {
+    command.add_option("--allow", allowed_, "Leave out the diagnostics of a rule")
+        ->type_name("RULE")
+        ->allow_extra_args(false);
+    command
+        .add_option("--deny", denied_, "Make errors of a rule's diagnostics, or of all `warnings`")
+        ->type_name("RULE")
+        ->allow_extra_args(false);
+    command.add_option(formOption, form_, "Form of the diagnostics: text, msvc, json or sarif")
+        ->type_name("FORM")
+        ->check(CLI::IsMember({"text", "msvc", "json", "sarif"}));
+    command.add_option("--color", color_, "Colour the text: auto, always or never")
+        ->type_name("WHEN")
+        ->check(CLI::IsMember({"auto", "always", "never"}));
+}
+
+void DiagnosticOptions::write(const std::vector<Diagnostic>& diagnostics) const {
+    const std::string text = form_ == "json"    ? jsonOf(diagnostics)
+                             : form_ == "sarif" ? sarifOf(diagnostics)
+                             : form_ == "msvc"  ? msvcTextOf(diagnostics)
+                                                : textOf(diagnostics, showsColours(color_));
+    const bool isForPrograms = form_ == "json" || form_ == "sarif";
+    std::FILE* const out = isForPrograms ? stdout : stderr;
+    const bool isWritten = std::fwrite(text.data(), 1, text.size(), out) == text.size();
+    if (std::fflush(out) != 0 || !isWritten) {
+        throw CannotRun("the diagnostics cannot be written");
+    }
+}
+
+} // namespace zem::msglib::tool

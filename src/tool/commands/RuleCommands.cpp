@@ -1,0 +1,58 @@
+#include "tool/commands/Command.h"
+#include "tool/diagnostics/RulePage.h"
+#include "tool/text/CannotRun.h"
+#include "tool/text/Names.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zem::msglib::tool {
+
+namespace {
+
+ExitStatus print(const std::string& text) {
+    if (!(std::cout << text << std::flush)) {
+        throw CannotRun("the text cannot be written");
+    }
+    return ExitStatus::success;
+}
+
+ExitStatus explain(const std::string& name) {
+    if (const Rule* const rule = findRule(name)) {
+        return print(explanationOf(*rule));
+    }
+    std::vector<std::string_view> names;
+    for (const Rule* const rule : allRules()) {
+        names.push_back(rule->name);
+    }
+    const auto meant = nearest(name, names);
+    throw CannotRun("there is no rule " + name +
+                    (meant ? "; did you mean " + std::string(*meant) + "?" : ""));
+}
+
+} // namespace
+
+void addRulesCommand(CLI::App& program, Command& chosen) {
+    const auto isPage = std::make_shared<bool>(false);
+    CLI::App& command = *program.add_subcommand("rules", "List what is checked");
+    command.add_flag("--markdown", *isPage, "Write the page of the documentation");
+    command.callback([isPage, &chosen] {
+        chosen = [isPage] { return print(*isPage ? rulePage() : ruleList()); };
+    });
+}
+
+void addExplainRuleCommand(CLI::App& program, Command& chosen) {
+    const auto name = std::make_shared<std::string>();
+    CLI::App& command = *program.add_subcommand(
+        "explain-rule", "Say why a rule is there and what to write instead");
+    command.add_option("NAME", *name, "A rule")->required();
+    command.footer("Example:\n  msglib explain-rule choice-quote");
+    command.callback([name, &chosen] { chosen = [name] { return explain(*name); }; });
+}
+
+} // namespace zem::msglib::tool

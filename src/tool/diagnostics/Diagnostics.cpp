@@ -1,0 +1,143 @@
+#include "tool/diagnostics/Diagnostics.h"
+
+#include "tool/text/CannotRun.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace zem::msglib::tool {
+
+namespace {
+
+const Rule& ruleNamed(const std::string& name) {
+    const Rule* rule = findRule(name);
+    if (rule == nullptr) {
+        throw CannotRun("there is no rule " + name);
+    }
+    return *rule;
+}
+
+bool comesBefore(const Place& one, const Place& other) {
+    return std::make_tuple(one.file->number(), one.offset) <
+           std::make_tuple(other.file->number(), other.offset);
+}
+
+} // namespace
+
+SeverityPolicy::SeverityPolicy(const std::vector<std::string>& allowed,
+                               const std::vector<std::string>& denied) {
+    for (const std::string& name : allowed) {
+        const Rule& rule = ruleNamed(name);
+        if (!rule.mayBeAllowed) {
+            throw CannotRun("the rule " + name + " cannot be allowed");
+        }
+        allowed_.insert(&rule);
+    }
+    for (const std::string& name : denied) {
+        if (name == "warnings") {
+            warningsAreErrors_ = true;
+        } else {
+            denied_.insert(&ruleNamed(name));
+        }
+    }
+}
+
+Severity SeverityPolicy::apply(const Rule& rule, Severity severity) const {
+    if (allowed_.count(&rule) != 0) {
+        return Severity::off;
+    }
+    const bool isRaised = warningsAreErrors_ && severity == Severity::warning;
+    return isRaised || denied_.count(&rule) != 0 ? Severity::error : severity;
+}
+
+Diagnostics::Diagnostics(SeverityPolicy policy) : policy_(std::move(policy)) {}
+
+bool Diagnostics::isOn(const Rule& rule) const {
+    return policy_.apply(rule, rule.severity) != Severity::off;
+}
+
+void Diagnostics::report(const Rule& rule, Place place, std::string words,
+                         std::vector<Note> notes) {
+    report(rule, rule.severity, place, std::move(words), std::move(notes));
+}
+
+void Diagnostics::report(const Rule& rule, Severity severity, Place place, std::string words,
+                         std::vector<Note> notes) {
+    diagnostics_.push_back(
+        {&rule, policy_.apply(rule, severity), place, std::move(words), std::move(notes)});
+}
+
+void Diagnostics::allow(const Rule& rule, Place directive, std::size_t begin, std::size_t end) {
+    allowances_.push_back({&rule, directive, begin, end, false});
+}
+
+std::vector<Diagnostic> Diagnostics::take() {
+    std::sort(allowances_.begin(), allowances_.end(),
+              [](const Allowance& one, const Allowance& other) {
+                  return comesBefore(one.directive, other.directive);
+              });
+    const auto silenced = [this](const Diagnostic& diagnostic) {
+        return diagnostic.severity == Severity::off || isAllowed(diagnostic);
+    };
+    diagnostics_.erase(std::remove_if(diagnostics_.begin(), diagnostics_.end(), silenced),
+                       diagnostics_.end());
+    reportUnusedAllowances();
+    std::stable_sort(diagnostics_.begin(), diagnostics_.end(),
+                     [](const Diagnostic& one, const Diagnostic& other) {
+                         return comesBefore(one.place, other.place);
+                     });
+    keepFirstOfFiles();
+    return std::move(diagnostics_);
+}
+
+/// Looks for an allowance in the comments of the message that the diagnostic is in. Messages do not
+/// overlap, so those are the last ones that begin before it.
+bool Diagnostics::isAllowed(const Diagnostic& diagnostic) {
+    const Place& place = diagnostic.place;
+    auto allowance =
+        std::upper_bound(allowances_.begin(), allowances_.end(), place,
+                         [](const Place& wanted, const Allowance& candidate) {
+                             const Place begin{candidate.directive.file, candidate.begin, 0};
+                             return comesBefore(wanted, begin);
+                         });
+    bool found = false;
+    while (allowance != allowances_.begin()) {
+        --allowance;
+        if (allowance->directive.file != place.file || place.offset >= allowance->end) {
+            break;
+        }
+        if (allowance->rule == diagnostic.rule) {
+            allowance->isUsed = true;
+            found = true;
+        }
+    }
+    return found;
+}
+
+void Diagnostics::reportUnusedAllowances() {
+    for (const Allowance& allowance : allowances_) {
+        if (!allowance.isUsed && isOn(*allowance.rule) && isOn(rules::unusedAllow)) {
+            report(rules::unusedAllow, allowance.directive,
+                   "nothing to allow: the message has no diagnostic of this rule");
+        }
+    }
+}
+
+void Diagnostics::keepFirstOfFiles() {
+    std::set<std::pair<const Rule*, const SourceFile*>> seen;
+    const auto isRepeated = [&seen](const Diagnostic& diagnostic) {
+        return diagnostic.rule->isOncePerFile &&
+               !seen.emplace(diagnostic.rule, diagnostic.place.file).second;
+    };
+    diagnostics_.erase(std::remove_if(diagnostics_.begin(), diagnostics_.end(), isRepeated),
+                       diagnostics_.end());
+}
+
+bool hasErrors(const std::vector<Diagnostic>& diagnostics) {
+    return std::any_of(diagnostics.begin(), diagnostics.end(), [](const Diagnostic& diagnostic) {
+        return diagnostic.severity == Severity::error;
+    });
+}
+
+} // namespace zem::msglib::tool

@@ -1,0 +1,107 @@
+#include "tool/generated/OutputFiles.h"
+
+#include "tool/text/CannotRun.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace zem::msglib::tool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void refuse(const fs::path& path, const std::string& reason) {
+    throw CannotRun(path.string() + ": cannot be written: " + reason);
+}
+
+bool hasBytes(const fs::path& path, const std::string& bytes) {
+    std::error_code failed;
+    if (fs::file_size(path, failed) != bytes.size() || failed) {
+        return false;
+    }
+    std::ifstream in(path, std::ios::binary);
+    const std::string present{std::istreambuf_iterator<char>(in), {}};
+    return in && present == bytes;
+}
+
+/// Writes a whole file or none.
+void writeBytes(const fs::path& path, const std::string& bytes) {
+    std::FILE* const file = std::fopen(path.c_str(), "wb");
+    bool isWritten =
+        file != nullptr && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    int reason = errno;
+    if (file != nullptr && std::fclose(file) != 0 && isWritten) {
+        isWritten = false;
+        reason = errno;
+    }
+    if (!isWritten) {
+        std::remove(path.c_str());
+        refuse(path, std::generic_category().message(reason));
+    }
+}
+
+/// A file beside its place, which is removed unless it has been moved there.
+class PendingFile {
+public:
+    PendingFile(const fs::path& place, const std::string& bytes) : place_(place), beside_(place) {
+        beside_ += ".new";
+        writeBytes(beside_, bytes);
+    }
+    PendingFile(PendingFile&& other) noexcept
+        : place_(std::move(other.place_)),
+          beside_(std::exchange(other.beside_, {})) {}
+    PendingFile& operator=(PendingFile&&) = delete;
+    ~PendingFile() {
+        std::error_code ignored;
+        if (!beside_.empty()) {
+            fs::remove(beside_, ignored);
+        }
+    }
+
+    void moveToPlace() {
+        std::error_code failed;
+        fs::rename(beside_, place_, failed);
+        if (failed) {
+            refuse(place_, failed.message());
+        }
+        beside_.clear();
+    }
+
+private:
+    fs::path place_;
+    fs::path beside_;
+};
+
+} // namespace
+
+OutputFiles::OutputFiles(fs::path folder) : folder_(std::move(folder)) {}
+
+void OutputFiles::add(const std::string& name, std::string bytes) {
+    files_.emplace_back(folder_ / fs::u8path(name), std::move(bytes));
+}
+
+void OutputFiles::write() const {
+    std::error_code failed;
+    fs::create_directories(folder_, failed);
+    if (failed) {
+        refuse(folder_, failed.message());
+    }
+    std::vector<PendingFile> pending;
+    for (const auto& [path, bytes] : files_) {
+        if (fs::exists(path, failed) && !fs::is_regular_file(path, failed)) {
+            refuse(path, "there is something else of that name");
+        }
+        if (!hasBytes(path, bytes)) {
+            pending.emplace_back(path, bytes);
+        }
+    }
+    for (PendingFile& file : pending) {
+        file.moveToPlace();
+    }
+}
+
+} // namespace zem::msglib::tool

@@ -1,0 +1,35 @@
+#include "tool/text/Words.h"
+
+#include "tool/text/Unicode.h"
+
+#include <algorithm>
+
+namespace zem::msglib::tool {
+
+namespace {
+
+constexpr std::size_t longestExcerpt = 40;
+
+std::string excerpt(std::string_view text) {
+    std::string result(text.substr(0, validUtf8Length(text.substr(0, longestExcerpt))));
+    std::replace(result.begin(), result.end(), '\n', ' ');
+    return result.size() < text.size() ? result + "…" : result;
+}
+
+} // namespace
+
+std::string code(std::string_view text) {
+    return '`' + excerpt(text) + '`';
+}
+
+std::string shown(std::string_view text) {
+    return '"' + excerpt(text) + '"';
+}
+
+std::string_view withoutBlanks(std::string_view text) noexcept {
+    constexpr std::string_view blanks = " \t\n\v\f\r";
+    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+}
+
+} // namespace zem::msglib::tool

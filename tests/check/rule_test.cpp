@@ -30,6 +30,7 @@ std::set<const Rule*> violatedBy(std::string_view example, const Rule& rule) {
             readSource("example.mc", std::string(example), "", 0, diagnostics), diagnostics));
         checkIdentifiers(catalogues, diagnostics);
         checkMessages(catalogues, diagnostics);
+        readSignatures(catalogues.front(), diagnostics);
     }
     std::set<const Rule*> rules;
     for (const Diagnostic& diagnostic : diagnostics.take()) {

@@ -1,6 +1,5 @@
 #include "tool/checks/MessageChecks.h"
 
-#include "tool/catalogue/CallSignatures.h"
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/PatternTree.h"
 
@@ -77,7 +76,6 @@ void checkMessages(const std::vector<Catalogue>& catalogues, Diagnostics& diagno
         for (const Message& message : catalogue.messages) {
             checkMessage(message, diagnostics);
         }
-        readSignatures(catalogue, diagnostics); // which reports wrong comments about arguments
     }
 }
 

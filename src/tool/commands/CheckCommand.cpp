@@ -1,3 +1,4 @@
+#include "tool/catalogue/CallSignatures.h"
 #include "tool/catalogue/CatalogueReader.h"
 #include "tool/catalogue/SourceReader.h"
 #include "tool/checks/CatalogueRules.h"
@@ -38,6 +39,9 @@ public:
         catalogues_ = readCatalogues(options_.files, options_.encoding, diagnostics_);
         checkIdentifiers(catalogues_, diagnostics_);
         checkMessages(catalogues_, diagnostics_);
+        for (const Catalogue& catalogue : catalogues_) {
+            readSignatures(catalogue, diagnostics_);
+        }
         for (const std::string& path : options_.lines) {
             checkLines(path);
         }

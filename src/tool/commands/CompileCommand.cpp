@@ -28,6 +28,8 @@ namespace zem::msglib::tool {
 
 namespace {
 
+using Signatures = std::vector<CallSignature>;
+
 struct CompileOptions {
     std::vector<std::string> files;
     std::string output;
@@ -95,9 +97,7 @@ std::vector<CatalogueName> namesOf(const CompileOptions& options) {
 }
 
 /// Returns the header of typed calls, unless their outermost namespace is a symbolic name too.
-std::string callsText(const CatalogueName& name, const Catalogue& catalogue) {
-    Diagnostics reportedBefore;
-    const auto signatures = readSignatures(catalogue, reportedBefore);
+std::string callsText(const CatalogueName& name, const Signatures& signatures) {
     const std::string_view space = std::string_view(name.calls).substr(0, name.calls.find("::"));
     for (const CallSignature& signature : signatures) {
         if (signature.symbol == space) {
@@ -111,7 +111,8 @@ std::string callsText(const CatalogueName& name, const Catalogue& catalogue) {
 }
 
 OutputFiles outputsOf(const CompileOptions& options, const std::vector<CatalogueName>& names,
-                      const std::vector<Catalogue>& catalogues) {
+                      const std::vector<Catalogue>& catalogues,
+                      const std::vector<Signatures>& signatures) {
     const bool isForElf = options.format == "elf";
     OutputFiles outputs(options.output);
     std::vector<const Catalogue*> all;
@@ -120,7 +121,7 @@ OutputFiles outputsOf(const CompileOptions& options, const std::vector<Catalogue
         const CatalogueName& name = names[index];
         const Tables embedded = isForElf ? compileTables({&catalogue}, shortBlock) : Tables();
         outputs.add(name.stem + ".h", headerText(name, catalogue));
-        outputs.add(name.stem + "Calls.h", callsText(name, catalogue));
+        outputs.add(name.stem + "Calls.h", callsText(name, signatures[index]));
         outputs.add(name.stem + ".cpp", sourceText(name, catalogue, embedded));
         all.push_back(&catalogue);
     }
@@ -140,12 +141,16 @@ ExitStatus compile(const CompileOptions& options) {
     const auto catalogues = readCatalogues(options.files, options.encoding, diagnostics);
     checkIdentifiers(catalogues, diagnostics);
     checkMessages(catalogues, diagnostics);
+    std::vector<Signatures> signatures;
+    for (const Catalogue& catalogue : catalogues) {
+        signatures.push_back(readSignatures(catalogue, diagnostics));
+    }
     const auto found = diagnostics.take();
     options.diagnostics.write(found);
     if (hasErrors(found)) {
         return ExitStatus::errors;
     }
-    outputsOf(options, names, catalogues).write();
+    outputsOf(options, names, catalogues, signatures).write();
     return ExitStatus::success;
 }
 

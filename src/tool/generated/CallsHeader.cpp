@@ -10,6 +10,8 @@ namespace zem::msglib::tool {
 
 namespace {
 
+constexpr std::size_t usualFunctionSize = 1536;
+
 constexpr const char* streamType = "::zem::msglib::MessageFormatStream";
 
 /// How a kind is called in the header that is included, and in the words of an error.
@@ -204,10 +206,12 @@ std::string callsHeaderText(const CatalogueName& name,
                       "#include <msglib/TypedCalls.h>\n\n"
                       "namespace " +
                       name.calls + " {\n";
+    out.reserve(signatures.size() * usualFunctionSize);
     for (const CallSignature& signature : signatures) {
         appendFunction(out, name.calls, signature);
     }
-    return out + "\n} // namespace " + name.calls + "\n";
+    out += "\n} // namespace " + name.calls + "\n";
+    return out;
 }
 
 } // namespace zem::msglib::tool

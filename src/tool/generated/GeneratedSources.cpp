@@ -115,6 +115,7 @@ void appendBytes(std::string& out, std::string_view bytes) {
 void appendNote(std::string& out, std::uint32_t language, const std::string& table) {
     const std::size_t padded =
         (tableHeaderSize + table.size() + alignment - 1) / alignment * alignment;
+    out.reserve(out.size() + 2 * table.size()); // half of the bytes take three or four characters
     out += "asm(R\"asm(\n"
            "    .pushsection .note.zem.msgtab, \"a\", %note\n"
            "    .balign 8\n"
@@ -149,13 +150,13 @@ std::string headerText(const CatalogueName& name, const Catalogue& catalogue) {
             out += " = " + hexadecimal(message.id) + "U;\n";
         }
     }
-    return out +
-           "\n/// Registers this module for the messages above. Call it before the first of them "
-           "is "
-           "rendered,\n"
-           "/// from code that is linked into this module.\n"
-           "void " +
-           name.registration + "();\n";
+    out +=
+        "\n/// Registers this module for the messages above. Call it before the first of them is "
+        "rendered,\n"
+        "/// from code that is linked into this module.\n"
+        "void " +
+        name.registration + "();\n";
+    return out;
 }
 
 std::string sourceText(const CatalogueName& name, const Catalogue& catalogue,
@@ -186,7 +187,8 @@ std::string sourceText(const CatalogueName& name, const Catalogue& catalogue,
     for (const std::uint32_t module : modules) {
         out += "    library.registerFacility(" + std::to_string(module) + ", &insideThisModule);\n";
     }
-    return out + "}\n";
+    out += "}\n";
+    return out;
 }
 
 std::string tableFileName(std::uint32_t language) {

@@ -82,7 +82,8 @@ std::string tableOf(Entries entries, std::size_t entriesPerBlock) {
         append(bytes, block.highest, 4);
         append(bytes, entriesAt + block.offset, 4);
     }
-    return bytes + texts;
+    bytes += texts;
+    return bytes;
 }
 
 } // namespace

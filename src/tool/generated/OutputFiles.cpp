@@ -1,11 +1,11 @@
 #include "tool/generated/OutputFiles.h"
 
 #include "tool/text/CannotRun.h"
+#include "tool/text/InputFile.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 namespace zem::msglib::tool {
@@ -20,12 +20,8 @@ namespace {
 
 bool hasBytes(const fs::path& path, const std::string& bytes) {
     std::error_code failed;
-    if (fs::file_size(path, failed) != bytes.size() || failed) {
-        return false;
-    }
-    std::ifstream in(path, std::ios::binary);
-    const std::string present{std::istreambuf_iterator<char>(in), {}};
-    return in && present == bytes;
+    return fs::file_size(path, failed) == bytes.size() && !failed &&
+           readBytes(path.string()) == bytes;
 }
 
 /// Writes a whole file or none.

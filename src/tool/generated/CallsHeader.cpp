@@ -153,10 +153,11 @@ void appendCall(std::string& out, const std::string& qualified, const CallSignat
         ") {\n";
     for (std::size_t index = 0; index < count; ++index) {
         const Parameter& parameter = parameters[index];
-        const std::string named =
-            parameter.name.empty() ? "" : " (" + std::string(parameter.name) + ")";
-        const std::string words = qualified + ": argument " + std::to_string(index) + named +
-                                  " must be " + namesOf(parameter.kind).words;
+        std::string words = qualified + ": argument " + std::to_string(index);
+        if (!parameter.name.empty()) {
+            words += " (" + std::string(parameter.name) + ")";
+        }
+        words += std::string(" must be ") + namesOf(parameter.kind).words;
         appendCheck(out, typeOf(parameter) + "::accepts<" + typeParameter(index) + ">", words);
     }
     out += "    return ::zem::msglib::typed::stream<" +

@@ -37,6 +37,17 @@ TEST_F(CheckCommand, AcceptsTheExamples) {
     EXPECT_EQ(outcome.status, 0);
 }
 
+// The texts of a message may be in heads of their own, and in several files.
+TEST_F(CheckCommand, ComparesTranslationsWhereverTheyAre) {
+    write("English.mc", "MessageId=1 Language=English\n{0} {1}\n.\n");
+    write("German.mc", "LanguageNames=(German=0x407:G)\nMessageId=1 Language=German\n{0} {2}\n.\n");
+    const Outcome outcome = run(PROGRAM " check English.mc German.mc --allow language-unused");
+    EXPECT_EQ(outcome.output, "German.mc:3:6: warning: the text in 0x409 does not use argument 2 "
+                              "[translation-arguments]\n"
+                              "    3 | {0} {2}\n"
+                              "      |      ^\n");
+}
+
 TEST_F(CheckCommand, ChecksPatternsThatLiveElsewhere) {
     const Outcome pattern = run(PROGRAM " check --pattern '{0}' --pattern '{x}'");
     EXPECT_EQ(pattern.output, "pattern:1:2: error: Illegal argument in format string [syntax]\n"

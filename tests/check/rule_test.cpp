@@ -1,6 +1,7 @@
 // The rules' own table: its examples are true, and the documentation is made from it.
 
 #include "check/Checking.h"
+#include "tool/catalogue/CallSignatures.h"
 #include "tool/checks/MessageChecks.h"
 #include "tool/diagnostics/Rule.h"
 #include "tool/diagnostics/RulePage.h"

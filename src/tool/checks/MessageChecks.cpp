@@ -3,7 +3,8 @@
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/PatternTree.h"
 
-#include <cstddef>
+#include <algorithm>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -15,8 +16,26 @@ namespace {
 /// The arguments that a text uses, each with its first placeholder.
 using Arguments = std::map<int, Place>;
 
+/// The texts of each message: they may be in several heads, and in several catalogues.
+using TextsById = std::map<std::uint32_t, std::vector<const MessageText*>>;
+
+TextsById textsById(const std::vector<Catalogue>& catalogues) {
+    TextsById texts;
+    for (const Catalogue& catalogue : catalogues) {
+        for (const Message& message : catalogue.messages) {
+            for (const MessageText& text : message.texts) {
+                if (message.isIdentified) {
+                    texts[message.id].push_back(&text);
+                }
+            }
+        }
+    }
+    return texts;
+}
+
 /// Returns nothing for a text with errors, whose placeholders are not all known.
-std::optional<Arguments> argumentsOf(const PatternTree& tree) {
+std::optional<Arguments> argumentsOf(const MessageText& message) {
+    const PatternTree tree(message.pattern);
     Arguments arguments;
     for (const PatternText& text : tree.texts()) {
         if (!text.errors.empty()) {
@@ -49,22 +68,16 @@ void compare(const MessageText& text, const Arguments& own, const Arguments& ref
     }
 }
 
-void checkMessage(const Message& message, Diagnostics& diagnostics) {
-    std::vector<std::optional<Arguments>> arguments;
-    std::optional<Arguments> reference;
-    for (const MessageText& text : message.texts) {
-        const PatternTree tree(text.pattern);
-        checkPattern(tree, diagnostics);
-        if (message.texts.size() > 1) {
-            arguments.push_back(argumentsOf(tree));
-        }
-        if (message.texts.size() > 1 && text.language == lookedUpLanguage) {
-            reference = arguments.back();
-        }
-    }
-    for (std::size_t number = 0; reference && number < arguments.size(); ++number) {
-        if (arguments[number]) {
-            compare(message.texts[number], *arguments[number], *reference, diagnostics);
+/// Compares the texts of a message with the one that is looked up.
+void checkTranslations(const std::vector<const MessageText*>& texts, Diagnostics& diagnostics) {
+    const auto lookedUp = std::find_if(texts.begin(), texts.end(), [](const MessageText* text) {
+        return text->language == lookedUpLanguage;
+    });
+    const auto reference = lookedUp == texts.end() ? std::nullopt : argumentsOf(**lookedUp);
+    for (const MessageText* const text : texts) {
+        const auto own = reference ? argumentsOf(*text) : std::nullopt;
+        if (own) {
+            compare(*text, *own, *reference, diagnostics);
         }
     }
 }
@@ -74,7 +87,14 @@ void checkMessage(const Message& message, Diagnostics& diagnostics) {
 void checkMessages(const std::vector<Catalogue>& catalogues, Diagnostics& diagnostics) {
     for (const Catalogue& catalogue : catalogues) {
         for (const Message& message : catalogue.messages) {
-            checkMessage(message, diagnostics);
+            for (const MessageText& text : message.texts) {
+                checkPattern(PatternTree(text.pattern), diagnostics);
+            }
+        }
+    }
+    for (const auto& [id, texts] : textsById(catalogues)) {
+        if (texts.size() > 1) {
+            checkTranslations(texts, diagnostics);
         }
     }
 }

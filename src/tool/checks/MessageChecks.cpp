@@ -3,6 +3,7 @@
 #include "tool/catalogue/CallSignatures.h"
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/PatternTree.h"
+#include "tool/text/Progress.h"
 
 #include <cstddef>
 #include <map>
@@ -73,9 +74,15 @@ void checkMessage(const Message& message, Diagnostics& diagnostics) {
 } // namespace
 
 void checkMessages(const std::vector<Catalogue>& catalogues, Diagnostics& diagnostics) {
+    std::size_t total = 0;
+    for (const Catalogue& catalogue : catalogues) {
+        total += catalogue.messages.size();
+    }
+    Progress progress("checking message", total);
     for (const Catalogue& catalogue : catalogues) {
         for (const Message& message : catalogue.messages) {
             checkMessage(message, diagnostics);
+            progress.step();
         }
         readSignatures(catalogue, diagnostics); // which reports wrong comments about arguments
     }

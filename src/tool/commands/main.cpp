@@ -24,6 +24,7 @@ ExitStatus run(int argc, const char* const* argv) {
     addCheckCommand(program, chosen);
     addRulesCommand(program, chosen);
     addExplainRuleCommand(program, chosen);
+    addRenderCommand(program, chosen);
     try {
         program.parse(argc, argv);
     } catch (const CLI::Error& error) {

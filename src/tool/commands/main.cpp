@@ -25,6 +25,7 @@ ExitStatus run(int argc, const char* const* argv) {
     addRulesCommand(program, chosen);
     addExplainRuleCommand(program, chosen);
     addRenderCommand(program, chosen);
+    addExplainCommand(program, chosen);
     try {
         program.parse(argc, argv);
     } catch (const CLI::Error& error) {

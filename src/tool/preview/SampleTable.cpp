@@ -19,7 +19,8 @@ namespace zem::msglib::tool {
 namespace {
 
 constexpr std::size_t mostCombinations = 256;
-constexpr std::size_t mostWork = std::size_t{64} << 20; // about the bytes that are read and written
+constexpr std::size_t workForTexts = std::size_t{256} << 20; // about the bytes read and written
+constexpr std::size_t workForValues = std::size_t{32} << 20;
 constexpr std::size_t workForText = 16;                 // for each byte of it, which is kept
 constexpr std::size_t workForArgument = 64;
 constexpr std::size_t workForStep = 16;
@@ -55,15 +56,19 @@ public:
             table_.notes.emplace_back(
                 "not all combinations of choices are shown, but each text of each choice");
         }
-        renderValues();
         if (isExhausted()) {
             table_.notes = {"too many texts to show all of them"};
+        }
+        mostWork_ = work_ + workForValues;
+        renderValues();
+        if (isExhausted()) {
+            table_.notes.emplace_back("too many values to show all of them");
         }
         return std::move(table_);
     }
 
 private:
-    bool isExhausted() const noexcept { return work_ >= mostWork; }
+    bool isExhausted() const noexcept { return work_ >= mostWork_; }
 
     bool hasFewCombinations() const {
         std::size_t count = 1;
@@ -216,6 +221,7 @@ private:
     std::unordered_set<std::string> tried_;
     std::unordered_set<std::string> seen_;
     std::size_t work_ = 0;
+    std::size_t mostWork_ = workForTexts;
     SampleTable table_;
 };
 

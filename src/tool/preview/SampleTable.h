@@ -29,7 +29,7 @@ struct SampleTable {
 ///
 /// What choices can pick is combined as long as that gives no more than a few hundred combinations;
 /// beyond that, each text of a choice is shown once. The values that are shown vary one at a time.
-/// For any pattern, the work is bounded by some 64 MiB of patterns and texts, which long patterns
+/// For any pattern, the work is bounded by some 300 MiB of patterns and texts, which long patterns
 /// reach after fewer rows.
 ///
 /// @param parameters  what is known about the arguments besides the pattern; may be fewer

@@ -223,7 +223,7 @@ TEST(SampleTable, EndsForHugePatterns) {
         deep += "{0,choice,0#a|" + std::to_string(level) + "#b";
     }
     const SampleTable deepTable = tableOf(deep + "{0}" + std::string(levels, '}'));
-    EXPECT_EQ(deepTable.notes.back(), "too many values to show all of them");
+    EXPECT_EQ(deepTable.notes.front(), "too many texts to show all of them");
     std::size_t size = 0;
     for (const SampleRow& row : deepTable.rows) {
         size += row.rendering.text.size();

@@ -56,8 +56,15 @@ void MessageInput::read() {
         found.end());
     hasErrors_ = !found.empty();
     diagnostics_.write(found);
-    if (!pattern_) {
+    if (pattern_) {
+        return;
+    }
+    try {
         selectTexts();
+    } catch (const CannotRun&) {
+        if (!hasErrors_) { // after which a message may be missing
+            throw;
+        }
     }
 }
 
@@ -80,9 +87,6 @@ void MessageInput::readPattern(Diagnostics& diagnostics) {
 
 void MessageInput::selectTexts() {
     const MessageIndex index(catalogues_.front());
-    if (hasErrors_ && index.messages().empty()) {
-        return;
-    }
     std::optional<std::uint32_t> language;
     if (!language_.empty()) {
         language = index.language(language_);

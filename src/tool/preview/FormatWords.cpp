@@ -58,10 +58,12 @@ std::string inBackticks(std::string_view text) {
 }
 
 /// Returns a style, and how it is written if quoting has changed it.
-std::string styleWords(const TracedText& style) {
-    const std::string_view written = style.place().text();
-    return inBackticks(style.text()) +
-           (written == style.text() ? "" : ", written " + inBackticks(written));
+std::string styleWords(const Placeholder& placeholder) {
+    const std::string_view style = placeholder.style.text();
+    const std::size_t begin = placeholder.type.place().end() + 1; // after the comma
+    const std::size_t end = placeholder.whole.end() - 1;
+    const std::string_view written = placeholder.whole.file->text().substr(begin, end - begin);
+    return inBackticks(style) + (written == style ? "" : ", written " + inBackticks(written));
 }
 
 // Numbers.
@@ -119,7 +121,7 @@ FormatWords numberWords(const Placeholder& placeholder) {
     const LocaleNumber number = localeNumber(style);
     FormatWords words;
     if (isPattern) {
-        words.summary = "a number by " + styleWords(placeholder.style);
+        words.summary = "a number by " + styleWords(placeholder);
     } else {
         words.summary =
             (style.empty() ? "a number" : "a number in the style " + inBackticks(style)) +
@@ -216,7 +218,7 @@ FormatWords dateWords(const Placeholder& placeholder) {
     const std::string_view style = placeholder.style.text();
     FormatWords words;
     if (placeholder.kind == PlaceholderKind::DateStyle) {
-        words.summary = "a date or time by " + styleWords(placeholder.style);
+        words.summary = "a date or time by " + styleWords(placeholder);
         words.details = fieldsOf(style);
     } else {
         const std::string pattern = localeDatePattern(type, style);

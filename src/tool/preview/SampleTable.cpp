@@ -21,9 +21,10 @@ namespace {
 constexpr std::size_t mostCombinations = 256;
 constexpr std::size_t workForTexts = std::size_t{256} << 20; // about the bytes read and written
 constexpr std::size_t workForValues = std::size_t{32} << 20;
-constexpr std::size_t workForText = 16;                 // for each byte of it, which is kept
+constexpr std::size_t workForText = 16; // for each byte of it, which is kept
 constexpr std::size_t workForArgument = 64;
 constexpr std::size_t workForStep = 16;
+constexpr std::size_t workForLevel = 512; // of choices in one another, which are rendered
 
 using Arguments = std::vector<WrittenArgument>;
 using Intervals = std::vector<NumberInterval>; // by argument
@@ -208,7 +209,8 @@ private:
         }
         const std::string_view pattern = tree_.texts().front().text.text();
         Rendering rendering = render(pattern, arguments);
-        work_ += pattern.size() + rendering.text.size() * workForText;
+        work_ += pattern.size() + rendering.text.size() * workForText +
+                 tree_.texts().back().depth * workForLevel; // the last text is one of the deepest
         if (seen_.insert((rendering.isFailure ? '!' : '=') + rendering.text).second) {
             table_.rows.push_back({arguments, std::move(rendering)});
         }

@@ -104,6 +104,7 @@ std::uint32_t MessageIndex::language(const std::string& name) const {
         }
     }
     std::vector<std::string_view> names;
+    names.reserve(languages.size());
     for (const auto& [known, value] : languages) {
         names.push_back(known);
     }

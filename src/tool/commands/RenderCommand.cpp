@@ -77,7 +77,7 @@ std::string sampleText(const InputText& input, const Colours& colours) {
 }
 
 void showSamples(const MessageInput& input, const Colours& colours) {
-    Progress progress("rendering message", input.texts().size());
+    Progress progress("rendering message", input.texts().size(), true);
     bool isFirst = true;
     for (const InputText& text : input.texts()) {
         writeOutput((isFirst ? "" : "\n") + sampleText(text, colours));

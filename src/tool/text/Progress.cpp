@@ -16,8 +16,10 @@ constexpr std::chrono::milliseconds interval(100);
 
 } // namespace
 
-Progress::Progress(std::string doing, std::size_t total)
-    : Progress(std::move(doing), total, isTerminal(STDERR_FILENO) ? &std::cerr : nullptr,
+Progress::Progress(std::string doing, std::size_t total, bool isPrinting)
+    : Progress(std::move(doing), total,
+               isTerminal(STDERR_FILENO) && !(isPrinting && isTerminal(STDOUT_FILENO)) ? &std::cerr
+                                                                                       : nullptr,
                &Clock::now) {}
 
 Progress::Progress(std::string doing, std::size_t total, std::ostream* out,

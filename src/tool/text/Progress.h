@@ -15,9 +15,11 @@ public:
 
     /// Shows it on standard error, if that is a terminal.
     ///
-    /// @param doing  what is done, as in `checking`
-    /// @param total  the number of steps
-    Progress(std::string doing, std::size_t total);
+    /// @param doing       what is done, as in `checking`
+    /// @param total       the number of steps
+    /// @param isPrinting  whether the work also prints; if that goes to a terminal, nothing else is
+    ///                    shown
+    Progress(std::string doing, std::size_t total, bool isPrinting = false);
 
     /// @param out  where to show it; null for nowhere
     /// @param now  tells the time

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <optional>
 #include <random>
 #include <string>
 
@@ -163,6 +164,29 @@ TEST(Explanation, HasTheIntervalsOfTheLibrary) {
     }
 }
 
+TEST(NumberInterval, IntersectsAndHasASample) {
+    std::mt19937 random(5);
+    const auto bound = [&random] {
+        const auto half = static_cast<double>(random() % 12) / 2;
+        return random() % 4 == 0 ? std::nullopt : std::optional(half);
+    };
+    for (int round = 0; round < 2000; ++round) {
+        const NumberInterval one{bound(), bound()};
+        const NumberInterval other{bound(), bound()};
+        const NumberInterval both = one.within(other);
+        for (double value = -1; value < 7; value += 0.25) {
+            EXPECT_EQ(both.contains(value), one.contains(value) && other.contains(value));
+        }
+        EXPECT_TRUE(both.isEmpty() || both.contains(both.sample()));
+    }
+    const double next = ChoiceFormat::nextDouble(1);
+    EXPECT_EQ((NumberInterval{1, next}.sample()), 1);
+    EXPECT_EQ((NumberInterval{next, 5}.sample()), 2);
+    EXPECT_EQ((NumberInterval{next, 1.5}.sample()), 1.1);
+    EXPECT_EQ((NumberInterval{next, ChoiceFormat::nextDouble(next)}.sample()), next);
+    EXPECT_LT((NumberInterval{std::nullopt, -1e300}.sample()), -1e300);
+}
+
 TEST(Explanation, SaysWhatQuotingDid) {
     const ExplanationCase cases[] = {
         {__LINE__, "it's", "text \"it's\"\n"},
@@ -194,6 +218,11 @@ TEST(Explanation, SaysWhatQuotingDid) {
          "    argument 0: a number by `0 'E'`, written `0 '''E'''`\n"
          "      no groups, no decimals\n"
          "      1234.5 shows \"1235 E\", -0.25 shows \"-0 E\"\n"},
+        {__LINE__, "a{0,choice}b",
+         "text \"a\"\n"
+         "argument 0 decides:\n"
+         "text \"b\"\n"
+         "does not compile: style_ required for choice format\n"},
         {__LINE__, "a{x}b",
          "text \"ab\"\n"
          "does not compile: Illegal argument in format string\n"},

@@ -58,6 +58,9 @@ TEST(SampleTable, FollowsHowArgumentsAreUsed) {
         {__LINE__, "{1,number,0.0}",
          "unused 1234.567 : 1234.6 | unused 0 : 0.0 | unused 1 : 1.0 | unused -1 : -1.0 | "
          "unused 0.25 : 0.3 | unused 1234567 : 1234567.0 | "},
+        {__LINE__, "{0,number,0%}",
+         "0.25 : 25% | 1234.567 : 123457% | 0 : 0% | 1 : 100% | -1 : -100% | "
+         "1234567 : 123456700% | "},
         {__LINE__, "{0,date,d.M. h tt}",
          "2026-11-23T09:05:07 : 23.11. 9 AM | 2026-01-04T15:30 : 4.1. 3 PM | "},
         {__LINE__, "{0,choice,0#none|1#one|1<many}", "0 : none | 1 : one | 2 : many | "},
@@ -229,6 +232,14 @@ TEST(SampleTable, EndsForHugePatterns) {
         size += row.rendering.text.size();
     }
     EXPECT_LT(size, std::size_t{32} << 20);
+
+    std::string wide = "{0,choice,0#none";
+    for (int entry = 1; entry < 20000; ++entry) {
+        wide += "|" + std::to_string(entry) + "#text {0}";
+    }
+    const SampleTable wideTable = tableOf(wide + "}");
+    EXPECT_EQ(wideTable.notes.front(), "too many texts to show all of them");
+    EXPECT_LT(wideTable.rows.size(), 2000);
 
     std::string many;
     for (int index = 0; index < 500; ++index) {

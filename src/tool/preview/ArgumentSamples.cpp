@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <limits>
 #include <string>
+#include <string_view>
 
 namespace zem::msglib::tool {
 
 namespace {
 
-constexpr double numbers[] = {1234.567, 0, 1, -1, 0.25, 1234567};
+constexpr double quarter = 0.25;
+constexpr double numbers[] = {1234.567, 0, 1, -1, quarter, 1234567};
 constexpr double counts[] = {7, 0, 1, -1, 1234567, 1234.5};
 constexpr std::int64_t times[] = {1795424707, 1767540600}; // 2026-11-23T09:05:07, 2026-01-04T15:30
 
@@ -18,17 +20,25 @@ constexpr std::int64_t times[] = {1795424707, 1767540600}; // 2026-11-23T09:05:0
 struct Use {
     bool isPlain = false;
     bool isNumber = false;
+    bool isPercentage = false;
     bool isTime = false;
     std::vector<double> written; ///< the limits of its choices, before their separators
     std::vector<double> limits;  ///< the same limits as the library compares them
 };
+
+bool isPercentage(std::string_view style) {
+    return style == "percent" || style.find('%') != std::string_view::npos;
+}
 
 void add(Use& use, const Placeholder& placeholder) {
     switch (placeholder.kind) {
     case PlaceholderKind::Plain:
     case PlaceholderKind::Unknown: use.isPlain = true; break;
     case PlaceholderKind::Number:
-    case PlaceholderKind::DecimalStyle: use.isNumber = true; break;
+    case PlaceholderKind::DecimalStyle:
+        use.isNumber = true;
+        use.isPercentage |= isPercentage(placeholder.style.text());
+        break;
     case PlaceholderKind::Date:
     case PlaceholderKind::DateStyle: use.isTime = true; break;
     case PlaceholderKind::Choice:
@@ -123,6 +133,9 @@ ArgumentSamples samplesOf(Use& use, std::size_t index, const Parameter& paramete
         }
     }
     const bool isDecided = !use.limits.empty() || use.isTime;
+    if (use.isPercentage) { // the first value goes with those of other arguments
+        samples.values.push_back(numberSample(quarter));
+    }
     if (use.isNumber) {
         addNumbers(numbers, samples.values);
     } else if (use.isPlain && !use.limits.empty()) {

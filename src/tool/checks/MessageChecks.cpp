@@ -2,8 +2,10 @@
 
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/PatternTree.h"
+#include "tool/text/Progress.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -85,11 +87,17 @@ void checkTranslations(const std::vector<const MessageText*>& texts, Diagnostics
 } // namespace
 
 void checkMessages(const std::vector<Catalogue>& catalogues, Diagnostics& diagnostics) {
+    std::size_t total = 0;
+    for (const Catalogue& catalogue : catalogues) {
+        total += catalogue.messages.size();
+    }
+    Progress progress("checking message", total);
     for (const Catalogue& catalogue : catalogues) {
         for (const Message& message : catalogue.messages) {
             for (const MessageText& text : message.texts) {
                 checkPattern(PatternTree(text.pattern), diagnostics);
             }
+            progress.step();
         }
     }
     for (const auto& [id, texts] : textsById(catalogues)) {

@@ -18,7 +18,9 @@ using Command = std::function<ExitStatus()>;
 
 void addCheckCommand(CLI::App& program, Command& chosen);
 void addCompileCommand(CLI::App& program, Command& chosen);
+void addExplainCommand(CLI::App& program, Command& chosen);
 void addExplainRuleCommand(CLI::App& program, Command& chosen);
+void addRenderCommand(CLI::App& program, Command& chosen);
 void addRulesCommand(CLI::App& program, Command& chosen);
 
 } // namespace zem::msglib::tool

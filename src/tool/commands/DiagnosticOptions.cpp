@@ -3,6 +3,7 @@
 #include "tool/diagnostics/DiagnosticJson.h"
 #include "tool/diagnostics/DiagnosticText.h"
 #include "tool/text/CannotRun.h"
+#include "tool/text/Progress.h"
 
 #include <CLI/CLI.hpp>
 
@@ -10,22 +11,16 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string_view>
 
 namespace zem::msglib::tool {
 
 namespace {
 
-/// Returns the value of an environment variable; empty if there is none.
-std::string_view environment(const char* name) {
-    const char* const value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
-bool showsColours(const std::string& color) {
-    const std::string_view terminal = environment("TERM");
-    const bool isTerminal = isatty(STDERR_FILENO) == 1 && !terminal.empty() && terminal != "dumb";
-    return color == "always" || (color == "auto" && isTerminal && environment("NO_COLOR").empty());
+/// Tells whether a standard stream is to be coloured.
+bool showsColours(const std::string& color, int descriptor) {
+    const char* const plain = std::getenv("NO_COLOR");
+    const bool isPlain = plain != nullptr && *plain != '\0';
+    return color == "always" || (color == "auto" && isTerminal(descriptor) && !isPlain);
 }
 
 } // namespace
@@ -49,14 +44,19 @@ void DiagnosticOptions::addTo(CLI::App& command, const std::string& formOption) 
 void DiagnosticOptions::write(const std::vector<Diagnostic>& diagnostics) const {
     const std::string text = form_ == "json"    ? jsonOf(diagnostics)
                              : form_ == "sarif" ? sarifOf(diagnostics)
-                             : form_ == "msvc"  ? msvcTextOf(diagnostics)
-                                                : textOf(diagnostics, showsColours(color_));
+                             : form_ == "msvc"
+                                 ? msvcTextOf(diagnostics)
+                                 : textOf(diagnostics, showsColours(color_, STDERR_FILENO));
     const bool isForPrograms = form_ == "json" || form_ == "sarif";
     std::FILE* const out = isForPrograms ? stdout : stderr;
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), out) == text.size();
     if (std::fflush(out) != 0 || !isWritten) {
         throw CannotRun("the diagnostics cannot be written");
     }
+}
+
+bool DiagnosticOptions::coloursOutput() const {
+    return showsColours(color_, STDOUT_FILENO);
 }
 
 } // namespace zem::msglib::tool

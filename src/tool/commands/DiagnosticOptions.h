@@ -30,6 +30,9 @@ public:
     /// @throws CannotRun if they cannot be written
     void write(const std::vector<Diagnostic>& diagnostics) const;
 
+    /// Tells whether text on standard output is to be coloured.
+    bool coloursOutput() const;
+
 private:
     std::vector<std::string> allowed_;
     std::vector<std::string> denied_;

@@ -17,6 +17,7 @@ ExitStatus run(int argc, const char* const* argv) {
     program.require_subcommand(1);
     program.footer("Examples:\n"
                    "  msglib compile App.mc --output .\n"
+                   "  msglib render App.mc MSG_COPIED\n"
                    "  msglib compile --help\n\n"
                    "Exit status: 0 without errors, 1 with errors, 2 if the program could not run.");
     Command chosen;
@@ -24,6 +25,8 @@ ExitStatus run(int argc, const char* const* argv) {
     addCheckCommand(program, chosen);
     addRulesCommand(program, chosen);
     addExplainRuleCommand(program, chosen);
+    addRenderCommand(program, chosen);
+    addExplainCommand(program, chosen);
     try {
         program.parse(argc, argv);
     } catch (const CLI::Error& error) {

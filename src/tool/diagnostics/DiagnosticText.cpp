@@ -35,8 +35,7 @@ constexpr Colours terminalColours = {"\x1B[1m",    "\x1B[1;31m", "\x1B[1;35m",
 
 /// Appends a character that a terminal shows as one, whatever it is.
 void appendVisible(std::string& out, std::string_view utf8, char32_t character) {
-    const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
-    out += isControl && character != '\t' ? std::string_view("\uFFFD") : utf8;
+    out += isControl(character) && character != '\t' ? std::string_view("\uFFFD") : utf8;
 }
 
 /// Returns the position that is at most as many characters before another one.

@@ -15,6 +15,11 @@ std::size_t utf16UnitCount(std::string_view utf8) noexcept;
 /// are valid.
 std::size_t validUtf8Length(std::string_view bytes) noexcept;
 
+/// Tells whether a character is one that a terminal obeys in place of showing it.
+constexpr bool isControl(char32_t character) noexcept {
+    return character < 0x20 || (character >= 0x7F && character < 0xA0);
+}
+
 /// Takes the first character from valid UTF-8 that is not empty.
 char32_t takeCharacter(std::string_view& utf8) noexcept;
 

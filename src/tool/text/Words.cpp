@@ -26,6 +26,26 @@ std::string shown(std::string_view text) {
     return '"' + excerpt(text) + '"';
 }
 
+std::string visibleLine(std::string_view bytes) {
+    std::string line;
+    while (!bytes.empty()) {
+        std::string_view valid = bytes.substr(0, validUtf8Length(bytes));
+        bytes.remove_prefix(valid.size());
+        while (!valid.empty()) {
+            const std::string_view before = valid;
+            const char32_t character = takeCharacter(valid);
+            line += character == '\n'      ? "↵"
+                    : isControl(character) ? "\uFFFD"
+                                           : before.substr(0, before.size() - valid.size());
+        }
+        if (!bytes.empty()) {
+            line += "\uFFFD";
+            bytes.remove_prefix(1);
+        }
+    }
+    return line;
+}
+
 std::string_view withoutBlanks(std::string_view text) noexcept {
     constexpr std::string_view blanks = " \t\n\v\f\r";
     const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());

@@ -13,6 +13,10 @@ std::string code(std::string_view text);
 /// if it is long.
 std::string shown(std::string_view text);
 
+/// Returns any bytes as one line for people: `↵` for a line end, and U+FFFD for each other control
+/// character and each byte that is not UTF-8.
+std::string visibleLine(std::string_view bytes);
+
 /// Returns the text without blanks and line ends at its start and end.
 std::string_view withoutBlanks(std::string_view text) noexcept;
 

@@ -1,34 +1,15 @@
 #include "tool/commands/DiagnosticOptions.h"
 
+#include "tool/diagnostics/Colours.h"
 #include "tool/diagnostics/DiagnosticJson.h"
 #include "tool/diagnostics/DiagnosticText.h"
 #include "tool/text/CannotRun.h"
 
 #include <CLI/CLI.hpp>
 
-#include <unistd.h>
-
 #include <cstdio>
-#include <cstdlib>
-#include <string_view>
 
 namespace zem::msglib::tool {
-
-namespace {
-
-/// Returns the value of an environment variable; empty if there is none.
-std::string_view environment(const char* name) {
-    const char* const value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
-bool showsColours(const std::string& color) {
-    const std::string_view terminal = environment("TERM");
-    const bool isTerminal = isatty(STDERR_FILENO) == 1 && !terminal.empty() && terminal != "dumb";
-    return color == "always" || (color == "auto" && isTerminal && environment("NO_COLOR").empty());
-}
-
-} // namespace
 
 void DiagnosticOptions::addTo(CLI::App& command, const std::string& formOption) {
     command.add_option("--allow", allowed_, "Leave out the diagnostics of a rule")
@@ -50,7 +31,7 @@ void DiagnosticOptions::write(const std::vector<Diagnostic>& diagnostics) const 
     const std::string text = form_ == "json"    ? jsonOf(diagnostics)
                              : form_ == "sarif" ? sarifOf(diagnostics)
                              : form_ == "msvc"  ? msvcTextOf(diagnostics)
-                                                : textOf(diagnostics, showsColours(color_));
+                                                : textOf(diagnostics, showsColours(color_, stderr));
     const bool isForPrograms = form_ == "json" || form_ == "sarif";
     std::FILE* const out = isForPrograms ? stdout : stderr;
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), out) == text.size();

@@ -22,6 +22,7 @@ ExitStatus run(int argc, const char* const* argv) {
     Command chosen;
     addCompileCommand(program, chosen);
     addCheckCommand(program, chosen);
+    addDumpCommand(program, chosen);
     addRulesCommand(program, chosen);
     addExplainRuleCommand(program, chosen);
     try {

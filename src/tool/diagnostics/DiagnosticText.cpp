@@ -1,6 +1,8 @@
 #include "tool/diagnostics/DiagnosticText.h"
 
+#include "tool/diagnostics/Colours.h"
 #include "tool/text/Unicode.h"
+#include "tool/text/Words.h"
 
 #include <algorithm>
 
@@ -16,27 +18,10 @@ constexpr std::size_t longestShown = 4 * shownCharacters; // in bytes
 constexpr std::size_t numberWidth = 5;
 constexpr const char* ellipsis = "…";
 
-/// What goes around the parts of a diagnostic on a terminal.
-struct Colours {
-    const char* place = "";
-    const char* error = "";
-    const char* warning = "";
-    const char* note = "";
-    const char* caret = "";
-    const char* end = "";
-
-    const char* of(Severity severity) const noexcept {
-        return severity == Severity::error ? error : severity == Severity::warning ? warning : note;
-    }
-};
-
-constexpr Colours terminalColours = {"\x1B[1m",    "\x1B[1;31m", "\x1B[1;35m",
-                                     "\x1B[1;36m", "\x1B[1;32m", "\x1B[0m"};
-
-/// Appends a character that a terminal shows as one, whatever it is.
-void appendVisible(std::string& out, std::string_view utf8, char32_t character) {
-    const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
-    out += isControl && character != '\t' ? std::string_view("\uFFFD") : utf8;
+const char* colourOf(Severity severity, const Colours& colours) noexcept {
+    return severity == Severity::error     ? colours.error
+           : severity == Severity::warning ? colours.warning
+                                           : colours.note;
 }
 
 /// Returns the position that is at most as many characters before another one.
@@ -67,7 +52,7 @@ public:
         for (std::size_t index = 0; index < shownCharacters && !rest.empty(); ++index) {
             const std::string_view before = rest;
             const char32_t character = takeCharacter(rest);
-            appendVisible(line_, before.substr(0, before.size() - rest.size()), character);
+            line_ += visible(before.substr(0, before.size() - rest.size()));
             if (index < column) {
                 below_ += character == '\t' ? '\t' : ' ';
             }
@@ -83,7 +68,7 @@ public:
         const std::size_t width = std::max(numberWidth, number.size());
         out += std::string(width - number.size(), ' ') + number + " | " + line_ + '\n';
         out +=
-            std::string(width, ' ') + " | " + below_ + colours.caret + caret_ + colours.end + '\n';
+            std::string(width, ' ') + " | " + below_ + colours.good + caret_ + colours.end + '\n';
     }
 
 private:
@@ -96,7 +81,7 @@ void appendHead(std::string& out, const Place& place, Severity severity, const s
                 const Colours& colours) {
     const auto position = place.file->positionOf(place.offset);
     out += colours.place + place.file->name() + ':' + std::to_string(position.line) + ':' +
-           std::to_string(position.column) + ": " + colours.end + colours.of(severity) +
+           std::to_string(position.column) + ": " + colours.end + colourOf(severity, colours) +
            nameOf(severity) + ": " + colours.end + words;
 }
 
@@ -118,7 +103,7 @@ const Place& placeOf(const Note& note, const Diagnostic& diagnostic) {
 } // namespace
 
 std::string textOf(const std::vector<Diagnostic>& diagnostics, bool isColoured) {
-    const Colours colours = isColoured ? terminalColours : Colours();
+    const Colours colours = isColoured ? Colours::ofTerminals() : Colours();
     std::string out;
     for (const Diagnostic& diagnostic : diagnostics) {
         appendHead(out, diagnostic.place, diagnostic.severity, diagnostic.words, colours);

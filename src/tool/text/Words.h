@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zem::msglib::tool {
 
@@ -12,6 +13,14 @@ std::string code(std::string_view text);
 /// Returns a text as users see it for the words of a diagnostic, in quotation marks and shortened
 /// if it is long.
 std::string shown(std::string_view text);
+
+/// Returns valid UTF-8 with U+FFFD in place of each control character but tabs, so that a terminal
+/// shows it and does nothing else.
+std::string visible(std::string_view text);
+
+/// Returns the lines of a text without their ends, which are LF or CR LF. The last one need not have
+/// an end.
+std::vector<std::string_view> linesOf(std::string_view text);
 
 /// Returns the text without blanks and line ends at its start and end.
 std::string_view withoutBlanks(std::string_view text) noexcept;

@@ -18,8 +18,10 @@ using Command = std::function<ExitStatus()>;
 
 void addCheckCommand(CLI::App& program, Command& chosen);
 void addCompileCommand(CLI::App& program, Command& chosen);
+void addDiffCommand(CLI::App& program, Command& chosen);
 void addDumpCommand(CLI::App& program, Command& chosen);
 void addExplainRuleCommand(CLI::App& program, Command& chosen);
+void addQuoteCommand(CLI::App& program, Command& chosen);
 void addRulesCommand(CLI::App& program, Command& chosen);
 
 } // namespace zem::msglib::tool

@@ -22,12 +22,11 @@ struct DumpOptions {
 ExitStatus dump(const DumpOptions& options) {
     const auto tables = readTables(options.module, readBytes(options.module));
     if (tables.empty() && !options.output.isJson()) {
-        const std::string words = options.module + ": there are no messages in it\n";
-        std::fputs(words.c_str(), stderr);
+        report(options.module + ": there are no messages in it");
         return ExitStatus::errors;
     }
-    options.output.print(options.output.isJson() ? jsonOf(tables)
-                                                 : textOf(tables, options.output.colours()));
+    print(options.output.isJson() ? jsonOf(tables)
+                                  : textOf(tables, options.output.isColoured(stdout)));
     return tables.empty() ? ExitStatus::errors : ExitStatus::success;
 }
 

@@ -1,5 +1,6 @@
 #include "tool/commands/OutputOptions.h"
 
+#include "tool/diagnostics/Colours.h"
 #include "tool/text/CannotRun.h"
 
 #include <CLI/CLI.hpp>
@@ -7,6 +8,17 @@
 #include <cstdio>
 
 namespace zem::msglib::tool {
+
+void print(const std::string& text) {
+    const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    if (std::fflush(stdout) != 0 || !isWritten) {
+        throw CannotRun("the output cannot be written");
+    }
+}
+
+void report(const std::string& words) {
+    std::fputs(("msglib: " + words + '\n').c_str(), stderr);
+}
 
 void OutputOptions::addTo(CLI::App& command) {
     command.add_option("--format", form_, "Form of the output: text or json")
@@ -17,15 +29,8 @@ void OutputOptions::addTo(CLI::App& command) {
         ->check(CLI::IsMember({"auto", "always", "never"}));
 }
 
-Colours OutputOptions::colours() const {
-    return showsColours(color_, stdout) ? Colours::ofTerminals() : Colours();
-}
-
-void OutputOptions::print(const std::string& text) const {
-    const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-    if (std::fflush(stdout) != 0 || !isWritten) {
-        throw CannotRun("the output cannot be written");
-    }
+bool OutputOptions::isColoured(std::FILE* stream) const {
+    return showsColours(color_, stream);
 }
 
 } // namespace zem::msglib::tool

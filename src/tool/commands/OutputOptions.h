@@ -1,7 +1,6 @@
 #pragma once
 
-#include "tool/diagnostics/Colours.h"
-
+#include <cstdio>
 #include <string>
 
 namespace CLI {
@@ -9,6 +8,14 @@ class App;
 }
 
 namespace zem::msglib::tool {
+
+/// Writes a text to standard output.
+///
+/// @throws CannotRun if it cannot be written
+void print(const std::string& text);
+
+/// Writes a line of words about the work to standard error, after the program's name.
+void report(const std::string& words);
 
 /// The options of commands that show something as text or as JSON: `--format` and `--color`.
 class OutputOptions {
@@ -18,13 +25,8 @@ public:
 
     bool isJson() const noexcept { return form_ == "json"; }
 
-    /// Returns the colours of text on standard output.
-    Colours colours() const;
-
-    /// Writes to standard output.
-    ///
-    /// @throws CannotRun if the text cannot be written
-    void print(const std::string& text) const;
+    /// Tells whether text for a stream is to be coloured.
+    bool isColoured(std::FILE* stream) const;
 
 private:
     std::string form_ = "text";

@@ -1,6 +1,7 @@
 #include "tool/table/TableListing.h"
 
 #include "tool/catalogue/Catalogue.h"
+#include "tool/diagnostics/Colours.h"
 #include "tool/text/Words.h"
 
 #include <nlohmann/json.hpp>
@@ -56,7 +57,8 @@ const char* severityOf(std::uint32_t id) noexcept {
     return names[id >> 30];
 }
 
-std::string textOf(const std::vector<LanguageTable>& tables, const Colours& colours) {
+std::string textOf(const std::vector<LanguageTable>& tables, bool isColoured) {
+    const Colours colours = isColoured ? Colours::ofTerminals() : Colours();
     std::string out;
     for (const LanguageTable& table : tables) {
         const std::size_t count = table.texts.size();

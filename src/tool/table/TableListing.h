@@ -1,6 +1,5 @@
 #pragma once
 
-#include "tool/diagnostics/Colours.h"
 #include "tool/table/ModuleTables.h"
 
 #include <cstdint>
@@ -20,7 +19,9 @@ const char* severityOf(std::uint32_t id) noexcept;
 ///         {0} files copied.
 ///
 /// Control characters in texts are shown as U+FFFD.
-std::string textOf(const std::vector<LanguageTable>& tables, const Colours& colours);
+///
+/// @param isColoured  whether to add the escape sequences of terminals
+std::string textOf(const std::vector<LanguageTable>& tables, bool isColoured);
 
 /// Returns the same as a JSON array, in which texts have the line ends of the table:
 ///

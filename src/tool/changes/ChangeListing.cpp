@@ -55,8 +55,9 @@ void appendChange(std::string& out, const Change& change, std::size_t width,
         head += "  " + (remark.empty() ? message.symbol : padded(message.symbol, width));
     }
     out += head + (remark.empty() ? "" : "  " + remark) + '\n';
+    const bool isInOne = change.texts.size() == 1;
     for (const TextChange& text : change.texts) {
-        if (text.language != lookedUpLanguage) {
+        if (!isInOne || text.language != lookedUpLanguage) {
             out += "  " + languageText(text.language) + ":\n";
         }
         appendLines(out, text.before, '-', colours.error, colours);

@@ -16,7 +16,7 @@ namespace zem::msglib::tool {
 ///
 ///     2 changes, 1 breaks callers
 ///
-/// Texts in other languages than English (United States) have theirs before them. Control
+/// Texts have their language before them, unless the only one is in English (United States). Control
 /// characters are shown as U+FFFD.
 ///
 /// @param isColoured  whether to add the escape sequences of terminals

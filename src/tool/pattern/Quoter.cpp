@@ -14,9 +14,11 @@ namespace zem::msglib::tool {
 namespace {
 
 constexpr std::size_t mostApostrophes = 64;
+constexpr std::size_t alwaysTried = 6;     // apostrophes, whatever has been learned
 constexpr std::size_t solutions = 3;       // that are learned of each kind
 constexpr std::size_t longestSearch = 512; // bytes of a text between two places to begin anew
-constexpr std::size_t mostSpellings = 16;  // that are kept at a time
+constexpr std::size_t longestThorough = 40;
+constexpr std::size_t mostSpellings = 16; // that are kept at a time
 
 constexpr std::string_view plain = "abc"; // means nothing at any place
 
@@ -34,28 +36,19 @@ std::string between(std::string_view text, std::size_t count) {
 struct Quoter::Spelling {
     std::string spelling;
     std::string text;
-    std::size_t missingBefore = 0; ///< braces that close without having been opened
-    std::size_t open = 0;          ///< braces that are open
-
-    void add(std::string_view spelled, std::string_view shown) {
-        spelling += spelled;
-        text += shown;
-        if (shown == "{") {
-            ++open;
-        } else if (shown == "}") {
-            missingBefore += open == 0 ? 1 : 0;
-            open -= open == 0 ? 0 : 1;
-        }
-    }
+    Partners before; ///< braces that have to open before it
+    Partners after;  ///< braces that have to close after it, the innermost last
 };
 
 Quoter::Quoter(TextPlace place, std::size_t depth) : trial_(place, depth) {
-    counts_ = {0, 1};
+    for (std::size_t count = 0; count <= alwaysTried; ++count) {
+        counts_.push_back(count);
+    }
     aroundText_ = learnPair("d", "M");
     for (const char* const special : {"|", "#", "E"}) {
         learnPair(special, special);
     }
-    aroundBraces_ = learnPair("{", "}");
+    learnPair("{", "}");
     learnApostrophe("a", "bc", "a", "bc");
     if (aroundText_ > 0) {
         const std::string quotes = apostrophes(aroundText_);
@@ -104,23 +97,32 @@ std::size_t Quoter::learnPair(std::string_view one, std::string_view other) {
 }
 
 /// Returns a spelling with an end, and with the braces that it lacks before and after it.
-std::string Quoter::framed(const Spelling& spelling, std::string_view end) const {
-    return repeated(between("{", aroundBraces_) + std::string(plain), spelling.missingBefore) +
-           spelling.spelling + std::string(end) +
-           repeated(between("}", aroundBraces_) + std::string(plain), spelling.open);
+std::string Quoter::framed(const Spelling& spelling, std::string_view end) {
+    std::string result;
+    for (const std::string& brace : spelling.before) {
+        result += brace + std::string(plain);
+    }
+    result += spelling.spelling + std::string(end);
+    for (auto brace = spelling.after.rbegin(); brace != spelling.after.rend(); ++brace) {
+        result += *brace + std::string(plain);
+    }
+    return result;
 }
 
 /// Returns what is to be shown for a spelling that is framed.
 std::string Quoter::framedText(const Spelling& spelling, std::string_view end) {
-    return repeated("{" + std::string(plain), spelling.missingBefore) + spelling.text +
-           std::string(end) + repeated("}" + std::string(plain), spelling.open);
+    return repeated("{" + std::string(plain), spelling.before.size()) + spelling.text +
+           std::string(end) + textAfter(spelling);
+}
+
+std::string Quoter::textAfter(const Spelling& spelling) {
+    return repeated("}" + std::string(plain), spelling.after.size());
 }
 
 /// Returns what is shown if apostrophes follow, apart from the text so far.
 std::string Quoter::signatureOf(const Spelling& spelling) const {
     const std::string expected = framedText(spelling, "");
-    const auto end = expected.end() - static_cast<std::ptrdiff_t>(
-                                          repeated("}" + std::string(plain), spelling.open).size());
+    const auto end = expected.end() - static_cast<std::ptrdiff_t>(textAfter(spelling).size());
     std::string signature;
     for (const std::size_t count : counts_) {
         const std::string shown =
@@ -134,7 +136,7 @@ std::string Quoter::signatureOf(const Spelling& spelling) const {
 
 /// Tells whether everything can follow a spelling that can follow an empty one.
 bool Quoter::isSettled(const Spelling& spelling, const std::string& signature) const {
-    return signature == signatureOf({{}, {}, spelling.missingBefore, spelling.open});
+    return signature == signatureOf({{}, {}, spelling.before, spelling.after});
 }
 
 /// Adds a spelling if its text is shown where plain characters follow.
@@ -149,48 +151,73 @@ bool Quoter::tryOne(Spelling longer, Spellings& found) const {
     return true;
 }
 
-void Quoter::extend(const Spelling& spelling, std::string_view character, Spellings& longer) const {
-    const auto tryCounts = [&](std::size_t before, std::size_t after) {
-        Spelling next = spelling;
-        const bool isApostrophe = character == "'";
-        next.add(apostrophes(before) + (isApostrophe ? "" : std::string(character)) +
-                     apostrophes(after),
-                 character);
-        return tryOne(std::move(next), longer);
-    };
-    if (character == "'") {
-        for (const std::size_t count : counts_) {
-            tryCounts(count, 0);
-        }
-        return;
+/// Notes which brace has to be there for one more, spelled alike.
+void Quoter::addPartner(Spelling& spelling, char brace, std::size_t before, std::size_t after) {
+    const auto among = [&](char other) { return apostrophes(before) + other + apostrophes(after); };
+    if (brace == '{') {
+        spelling.after.push_back(among('}'));
+    } else if (spelling.after.empty()) {
+        spelling.before.insert(spelling.before.begin(), among('{'));
+    } else {
+        spelling.after.pop_back();
     }
-    const bool isShown = tryCounts(0, 0);
-    if (isShown && trial_.place() != TextPlace::date) {
-        return; // quoting a character that needs none would only separate apostrophes
-    }
+}
+
+/// Adds the spellings with one more character, which is among apostrophes.
+bool Quoter::addAll(const Spelling& spelling, std::string_view character, bool withPartner,
+                    Spellings& found) const {
+    const bool isApostrophe = character == "'";
+    bool isShown = false;
     for (const std::size_t before : counts_) {
         for (const std::size_t after : counts_) {
-            if (before + after > 0) {
-                tryCounts(before, after);
+            Spelling longer = spelling;
+            longer.spelling += apostrophes(before) + (isApostrophe ? "" : std::string(character)) +
+                               apostrophes(after);
+            longer.text += character;
+            if (withPartner) {
+                addPartner(longer, character.front(), before, after);
+            }
+            isShown = tryOne(std::move(longer), found) || isShown;
+            if (isApostrophe) {
+                break;
             }
         }
+    }
+    return isShown;
+}
+
+/// Adds the spellings with one more character: as it is, or else among apostrophes, or else with a
+/// brace that matches it.
+void Quoter::extend(const Spelling& spelling, std::string_view character, bool isThorough,
+                    Spellings& longer) const {
+    Spelling asItIs = spelling;
+    asItIs.spelling += character;
+    asItIs.text += character;
+    const bool isApostrophe = character == "'";
+    const bool isDate = trial_.place() == TextPlace::date; // in which letters mean fields
+    if (!isThorough && !isDate && !isApostrophe && tryOne(std::move(asItIs), longer)) {
+        return; // quoting what needs none serves others beside it, but seldom
+    }
+    const bool isBrace = character == "{" || character == "}";
+    if ((!addAll(spelling, character, false, longer) || isThorough) && isBrace) {
+        addAll(spelling, character, true, longer);
     }
 }
 
 /// Makes spellings with one more character of those without it, the shortest first; of one to which
 /// everything can be added, it makes a settled part and an empty spelling.
 std::vector<Quoter::Spelling> Quoter::withCharacter(const std::vector<Spelling>& spellings,
-                                                    std::string_view character,
+                                                    std::string_view character, bool isThorough,
                                                     std::string& settled) const {
     Spellings found;
     for (const Spelling& spelling : spellings) {
-        extend(spelling, character, found);
+        extend(spelling, character, isThorough, found);
     }
     const auto isShorter = [](const auto& one, const auto& other) {
         return one.second.spelling.size() < other.second.spelling.size();
     };
     const auto shortest = std::min_element(found.begin(), found.end(), isShorter);
-    if (shortest != found.end() && isSettled(shortest->second, shortest->first)) {
+    if (!isThorough && shortest != found.end() && isSettled(shortest->second, shortest->first)) {
         settled += shortest->second.spelling;
         return std::vector<Spelling>(1);
     }
@@ -201,18 +228,18 @@ std::vector<Quoter::Spelling> Quoter::withCharacter(const std::vector<Spelling>&
     std::stable_sort(longer.begin(), longer.end(), [](const auto& one, const auto& other) {
         return one.spelling.size() < other.spelling.size();
     });
-    longer.resize(std::min(longer.size(), mostSpellings));
+    longer.resize(std::min(longer.size(), isThorough ? 4 * mostSpellings : mostSpellings));
     return longer;
 }
 
-std::optional<std::string> Quoter::search(std::string_view text) const {
+std::optional<std::string> Quoter::search(std::string_view text, bool isThorough) const {
     std::string settled;
     std::vector<Spelling> spellings(1);
     for (std::string_view rest = text; !rest.empty();) {
         const std::string_view before = rest;
         takeCharacter(rest);
-        spellings =
-            withCharacter(spellings, before.substr(0, before.size() - rest.size()), settled);
+        const std::string_view character = before.substr(0, before.size() - rest.size());
+        spellings = withCharacter(spellings, character, isThorough, settled);
         if (spellings.empty() || spellings.front().text.size() > longestSearch) {
             return std::nullopt;
         }
@@ -239,7 +266,8 @@ std::optional<std::string> Quoter::quote(std::string_view text) const {
             return simple;
         }
     }
-    return search(text);
+    auto found = search(text, false);
+    return found || text.size() > longestThorough ? found : search(text, true);
 }
 
 } // namespace zem::msglib::tool

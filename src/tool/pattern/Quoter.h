@@ -31,24 +31,30 @@ public:
 
 private:
     struct Spelling;
+    using Partners = std::vector<std::string>;
     using Spellings = std::map<std::string, Spelling>; ///< by what may follow, the shortest of each
 
     void learnApostrophe(std::string_view before, std::string_view after,
                          std::string_view shownBefore, std::string_view shownAfter);
     std::size_t learnPair(std::string_view one, std::string_view other);
-    std::optional<std::string> search(std::string_view text) const;
+    std::optional<std::string> search(std::string_view text, bool isThorough) const;
     std::vector<Spelling> withCharacter(const std::vector<Spelling>& spellings,
-                                        std::string_view character, std::string& settled) const;
-    void extend(const Spelling& spelling, std::string_view character, Spellings& longer) const;
+                                        std::string_view character, bool isThorough,
+                                        std::string& settled) const;
+    void extend(const Spelling& spelling, std::string_view character, bool isThorough,
+                Spellings& longer) const;
     bool tryOne(Spelling longer, Spellings& found) const;
-    std::string framed(const Spelling& spelling, std::string_view end) const;
+    bool addAll(const Spelling& spelling, std::string_view character, bool withPartner,
+                Spellings& found) const;
+    static void addPartner(Spelling& spelling, char brace, std::size_t before, std::size_t after);
+    static std::string framed(const Spelling& spelling, std::string_view end);
     static std::string framedText(const Spelling& spelling, std::string_view end);
+    static std::string textAfter(const Spelling& spelling);
     std::string signatureOf(const Spelling& spelling) const;
     bool isSettled(const Spelling& spelling, const std::string& signature) const;
 
     TextTrial trial_;
     std::vector<std::size_t> counts_; ///< of apostrophes that have shown something, ascending
-    std::size_t aroundBraces_ = 0;    ///< how many quote a brace; 0 if none do
     std::size_t aroundText_ = 0;      ///< how many quote a text of several characters
 };
 

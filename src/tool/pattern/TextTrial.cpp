@@ -15,11 +15,15 @@ namespace {
 // What a trial that fails is said to show; no other text has such a byte.
 constexpr const char* failed = "\xFF";
 
-/// Returns what a message shows with 0 for its arguments.
+// What chooses, and what decimal and date styles show: a number that differs from itself in each form.
+constexpr int choosing = 0;
+constexpr int number = 1234;
+
+/// Returns what a message shows.
 std::string shownBy(const std::string& pattern) {
     std::string result;
     try {
-        MessageFormat(pattern).format(std::list<boost::any>{0}, result);
+        MessageFormat(pattern).format(std::list<boost::any>{choosing, number}, result);
     } catch (const std::runtime_error&) {
         return failed;
     }
@@ -51,10 +55,10 @@ TextTrial::TextTrial(TextPlace place, std::size_t depth) : place_(place), depth_
         addFrames("{0}", "{0}", "0", "0", false);
         break;
     case TextPlace::number:
-        addFrames("{0,number,0", "}", "0", "", true);
-        addFrames("{0,number,", "0}", "", "0", true);
-        addFrames("{0,number,#,##0.00 ", "}", "0.00 ", "", false);
-        addFrames("{0,number,", " #,##0.00}", "", " 0.00", false);
+        addFrames("{1,number,0", "}", "1234", "", true);
+        addFrames("{1,number,", "0}", "", "1234", true);
+        addFrames("{1,number,#,##0.00 ", "}", "1,234.00 ", "", false);
+        addFrames("{1,number,", " #,##0.00}", "", " 1,234.00", false);
         break;
     case TextPlace::date:
         addFrames("{0,date,", "}", "", "", false);

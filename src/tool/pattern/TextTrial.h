@@ -14,8 +14,8 @@ enum class TextPlace : std::uint8_t { message, number, date };
 /// Returns a text as many times as `count`.
 std::string repeated(std::string_view text, std::size_t count);
 
-/// Returns what a message pattern shows inside as many choices, with 0 for its arguments; empty if
-/// it fails.
+/// Returns what a message pattern shows inside as many choices, which pick their first text, with a
+/// number for its arguments; empty if it fails.
 std::string shownInside(std::size_t depth, const std::string& pattern);
 
 /// Asks the library what spellings of a text show at one place inside a number of choices.

@@ -18,11 +18,11 @@ namespace {
 const std::string catalogue = "LanguageNames=(German=0x407:G)\nFacilityNames=(App=0x7FF)\n"
                               "MessageId=1 Severity=Error Facility=App\n"
                               "Language=English\none {0}\n\ntwo 😀\n.\n"
-                              "Language=German\neins\n.\n"
+                              "Language=German\neins {0}\n.\n"
                               "MessageId=0x20\nSeverity=Warning Facility=App\n"
                               "Language=English\n\x1B[0m\n.\n";
 const std::string listing = "Language 0x0407: 1 message\n\n"
-                            "0xC7FF0001  error  facility 2047  code 1\n    eins\n\n"
+                            "0xC7FF0001  error  facility 2047  code 1\n    eins {0}\n\n"
                             "Language 0x0409: 2 messages\n\n"
                             "0x87FF0020  warning  facility 2047  code 32\n    \uFFFD[0m\n\n"
                             "0xC7FF0001  error    facility 2047  code 1\n"
@@ -69,7 +69,7 @@ TEST(ModuleTablesTest, ReadsEveryKindOfElf) {
         const auto found = readTables("x", elf.bytes());
         ASSERT_EQ(found.size(), 2U);
         EXPECT_EQ(found[0].language, 0x407U);
-        EXPECT_EQ(found[0].texts.at(0xC7FF0001), "eins\r\n");
+        EXPECT_EQ(found[0].texts.at(0xC7FF0001), "eins {0}\r\n");
         EXPECT_EQ(found[1].language, 0x409U);
         EXPECT_EQ(found[1].texts.at(0xC7FF0001), "one {0}\r\n\r\ntwo 😀\r\n");
         EXPECT_EQ(found[1].texts.size(), 2U);
@@ -106,7 +106,7 @@ TEST(ModuleTablesTest, RefusesDamagedTables) {
         {__LINE__, changed(good, 30, 2), "entry of 0x87FF0020 has a form"},
         {__LINE__, changed(changed(good, 28, good.size() - 28), 24, 28), "overlaps"},
         {__LINE__, tooLong.bytes(), "longer than its note"},
-        {__LINE__, damaged.bytes(), "language 0x0409 is damaged: its block"},
+        {__LINE__, damaged.bytes(), "language 0x0409 is damaged: its entry"},
         {__LINE__, "MZ", "a module for Windows"},
         {__LINE__, "!<arch>\n", "an archive of objects"},
         {__LINE__,
@@ -128,7 +128,7 @@ TEST_F(DumpCommandTest, ShowsWhatWasCompiled) {
     ASSERT_EQ(run("'" PROGRAM "' compile App.mc --output .").output, "");
     ASSERT_EQ(run("'" PROGRAM "' compile App.mc --output . --format rc").output, "");
     EXPECT_EQ(dump("messages_0407.bin").output,
-              "1 message\n\n0xC7FF0001  error  facility 2047  code 1\n    eins\n");
+              "1 message\n\n0xC7FF0001  error  facility 2047  code 1\n    eins {0}\n");
     ASSERT_EQ(run("'" PROGRAM "' compile App.mc --output .").output, "");
     ASSERT_EQ(run(CXX_COMPILER " -std=c++17 -I'" INCLUDE_FOLDER "' -I'" GEOM_FOLDER
                                "' -c App.cpp && " CXX_COMPILER

@@ -162,7 +162,7 @@ TEST(QuoterTest, FindsShortSpellings) {
         {__LINE__, TextPlace::message, 0, "Größe: it's 😀\nfull", "Größe: it's 😀\nfull"},
         {__LINE__, TextPlace::message, 0, "use {0}", "use '{'0'}'"},
         {__LINE__, TextPlace::message, 0, "the dogs' 'bone", "the dogs'' 'bone"},
-        {__LINE__, TextPlace::message, 0, "''", "'''"},
+        {__LINE__, TextPlace::message, 0, "''", "''''"},
         {__LINE__, TextPlace::message, 1, "it's fine", "it''''s fine"},
         {__LINE__, TextPlace::message, 1, "a|b", "a'|'b"},
         {__LINE__, TextPlace::message, 1, "{a}", "'''{'''a'''}'''"},

@@ -66,7 +66,8 @@ private:
 
     void readSegments() {
         std::size_t count = 0;
-        if (elf_getphdrnum(elf_.get(), &count) != 0) {
+        if (elf_getphdrnum(elf_.get(), &count) != 0 ||
+            (header_.e_phnum != count && header_.e_phnum != PN_XNUM)) {
             refuse("its program headers are damaged");
         }
         for (std::size_t index = 0; index < count; ++index) {
@@ -82,7 +83,8 @@ private:
 
     void readSections() {
         std::size_t count = 0;
-        if (elf_getshdrnum(elf_.get(), &count) != 0) {
+        if (elf_getshdrnum(elf_.get(), &count) != 0 ||
+            (header_.e_shnum != count && header_.e_shnum != 0)) {
             refuse("its section headers are damaged");
         }
         for (std::size_t index = 1; index < count; ++index) {
@@ -139,7 +141,7 @@ private:
             tables_[language].merge(texts); // which keeps the first text of each message
         } catch (const BrokenTable& broken) {
             throw CannotRun(name_ + ": the table of messages in the language " +
-                            hexadecimal(language) + " is damaged: " + broken.what());
+                            languageText(language) + " is damaged: " + broken.what());
         }
     }
 

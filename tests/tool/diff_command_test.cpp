@@ -101,6 +101,15 @@ TEST_F(DiffCommandTest, ComparesTextsWithTables) {
     EXPECT_EQ(run("cat App.mc | '" PROGRAM "' diff - App.mc").output, "no changes\n");
 }
 
+TEST_F(DiffCommandTest, ShowsWhatTheDocumentationShows) {
+    const std::string catalogue = SOURCE_FOLDER "/examples/desktop/DesktopMessages.mc";
+    const Outcome outcome = run("sed 's/ to “{1}”//; s/MessageId=4/MessageId=6/' '" + catalogue +
+                                "' | '" PROGRAM "' diff '" + catalogue + "' - | sed 's/^./    &/'");
+    std::ifstream in(SOURCE_FOLDER "/docs/catalogues.md");
+    const std::string page{std::istreambuf_iterator<char>(in), {}};
+    EXPECT_NE(page.find("\n\n" + outcome.output + "\n"), std::string::npos) << outcome.output;
+}
+
 TEST_F(DiffCommandTest, CannotCompareWhatCannotBeRead) {
     write("Good.mc", message("1", "x"));
     write("Wrong.mc", "MessageId=1\n");

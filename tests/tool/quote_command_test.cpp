@@ -124,14 +124,14 @@ TEST(QuoterTest, ShowsEachShortTextAsItIs) {
         std::size_t most; ///< apostrophes of other spellings that are tried
     } rows[] = {
         {__LINE__, TextPlace::message, 0, "'{}|#a", 3, 10},
-        {__LINE__, TextPlace::message, 1, "'{}|a", 3, 12},
+        {__LINE__, TextPlace::message, 1, "'{}|", 3, 12},
         {__LINE__, TextPlace::message, 2, "'{}|<", 2, 18},
         {__LINE__, TextPlace::message, 3, "'{}|0", 2, 24},
-        {__LINE__, TextPlace::number, 0, "'{}#E%", 3, 9},
-        {__LINE__, TextPlace::number, 1, "'{}|0;", 2, 10},
+        {__LINE__, TextPlace::number, 0, "'{}E", 3, 9},
+        {__LINE__, TextPlace::number, 1, "'{}0;", 2, 10},
         {__LINE__, TextPlace::number, 2, "'{}.a", 2, 14},
         {__LINE__, TextPlace::number, 3, "'{},E", 2, 18},
-        {__LINE__, TextPlace::date, 0, "'{}da ", 3, 9},
+        {__LINE__, TextPlace::date, 0, "'{}d", 3, 9},
         {__LINE__, TextPlace::date, 1, "'{}|ys", 2, 10},
         {__LINE__, TextPlace::date, 2, "'{}|da", 2, 14},
         {__LINE__, TextPlace::date, 3, "'{}|da", 2, 18},
@@ -223,6 +223,20 @@ TEST_F(QuoteCommandTest, PrintsTheSpellingAlone) {
         EXPECT_EQ(outcome.status, row.status);
         EXPECT_EQ(outcome.output, row.output);
     }
+}
+
+TEST_F(QuoteCommandTest, SpellsWhatTheDocumentationShows) {
+    std::ifstream page(SOURCE_FOLDER "/docs/catalogues.md");
+    std::size_t examples = 0;
+    for (std::string line; std::getline(page, line);) {
+        const std::size_t comment = line.find(" # ");
+        if (line.rfind("    msglib quote ", 0) == 0 && comment != std::string::npos) {
+            const std::string command = line.substr(11, comment - 11);
+            EXPECT_EQ(run("'" PROGRAM "' " + command).output, line.substr(comment + 3) + "\n");
+            ++examples;
+        }
+    }
+    EXPECT_EQ(examples, 5U);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ namespace {
 
 using platform::Bytes;
 
-constexpr std::string_view tableName("zem.msglib", 11); // with its terminator
+constexpr char tableName[] = "zem.msglib"; // in the note, with its terminator
 constexpr std::uint32_t tableType = 0x4d544231;
 constexpr std::size_t tableHeaderSize = 8;
 
@@ -118,7 +118,8 @@ private:
                 refuse("its notes are damaged");
             }
             const std::string_view rest = std::string_view(bytes_).substr(offset, size);
-            if (note.n_type == tableType && rest.substr(nameAt, note.n_namesz) == tableName) {
+            if (note.n_type == tableType && rest.substr(nameAt, note.n_namesz) ==
+                                                std::string_view(tableName, sizeof tableName)) {
                 readTable(offset + contentAt, note.n_descsz);
             }
             at = next;

@@ -23,8 +23,11 @@ public:
     Quoter(TextPlace place, std::size_t depth);
 
     /// Returns a short spelling that shows the text wherever it may stand at the place; nothing if
-    /// none was found. It takes time in proportion to the length of the text, unless it has
-    /// thousands of apostrophes or braces in a row.
+    /// none was found.
+    ///
+    /// There may be one all the same: where braces do not match inside a choice or a style, by tricks
+    /// that nobody would read, and where apostrophes or braces go on for hundreds of bytes. It takes
+    /// time in proportion to the length of the text.
     ///
     /// @param text  valid UTF-8
     std::optional<std::string> quote(std::string_view text) const;

@@ -54,7 +54,7 @@ bool isRight(const std::string& spelling, const std::string& text, TextPlace pla
         for (const bool isLast : {true, false}) {
             std::string pattern = around.before + spelling + around.after;
             for (std::size_t level = 0; level < depth; ++level) {
-                pattern = "{0,choice,-5#none|0#" + pattern + (isLast ? "}" : "|7#many}");
+                pattern.insert(0, "{0,choice,-5#none|0#").append(isLast ? "}" : "|7#many}");
             }
             if (render(pattern) != around.shownBefore + text + around.shownAfter) {
                 return false;

@@ -82,8 +82,8 @@ function(_msglib_find_tool result)
     find_program(MSGLIB_TOOL NAMES msglib NO_CMAKE_FIND_ROOT_PATH DOC "The program msglib, which compiles catalogues")
     if(NOT MSGLIB_TOOL)
         message(FATAL_ERROR "msglib_add_catalogue: the program msglib is missing. Debian has it in the package "
-            "msglib-tools. It is built with the library where MSGLIB_BUILD_TOOL is on and CLI11, nlohmann_json and iconv "
-            "are found. MSGLIB_TOOL can name one that runs on this machine.")
+            "msglib-tools. It is built with the library where MSGLIB_BUILD_TOOL is on and CLI11, nlohmann_json, iconv "
+            "and libelf are found. MSGLIB_TOOL can name one that runs on this machine.")
     endif()
     set(${result} "${MSGLIB_TOOL}" PARENT_SCOPE)
 endfunction()

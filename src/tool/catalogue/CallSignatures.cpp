@@ -194,13 +194,12 @@ void readParameters(const PatternTree& tree, CallSignature& signature) {
 }
 
 CallSignature readSignature(const MessageFacts& facts, Diagnostics& diagnostics) {
-    CallSignature signature;
     if (!facts.pattern) {
+        CallSignature signature;
         signature.refusal = "has no text in English (United States)";
         return signature;
     }
-    signature.text = facts.pattern->text();
-    readParameters(PatternTree(*facts.pattern), signature);
+    CallSignature signature = tool::readSignature(*facts.pattern);
     if (signature.refusal.empty()) {
         AnnotationReader annotations(signature.parameters, diagnostics);
         for (const Place& comment : facts.comments) {
@@ -233,11 +232,35 @@ std::map<std::uint32_t, MessageFacts> collectFacts(const Catalogue& catalogue) {
 
 } // namespace
 
-std::vector<CallSignature> readSignatures(const Catalogue& catalogue, Diagnostics& diagnostics) {
+const char* nameOf(ValueKind kind) noexcept {
+    switch (kind) {
+    case ValueKind::text: return "text";
+    case ValueKind::number: return "number";
+    case ValueKind::time: return "time";
+    case ValueKind::numberAndTime: return "number and time";
+    case ValueKind::any: break;
+    }
+    return "any";
+}
+
+CallSignature readSignature(const Place& pattern) {
+    CallSignature signature;
+    signature.text = pattern.text();
+    readParameters(PatternTree(pattern), signature);
+    return signature;
+}
+
+std::map<std::uint32_t, CallSignature> readSignaturesById(const Catalogue& catalogue,
+                                                          Diagnostics& diagnostics) {
     std::map<std::uint32_t, CallSignature> byId;
     for (const auto& [id, facts] : collectFacts(catalogue)) {
         byId.emplace(id, readSignature(facts, diagnostics));
     }
+    return byId;
+}
+
+std::vector<CallSignature> readSignatures(const Catalogue& catalogue, Diagnostics& diagnostics) {
+    const auto byId = readSignaturesById(catalogue, diagnostics);
     std::vector<CallSignature> signatures;
     std::set<std::string_view> symbols;
     for (const Message& message : catalogue.messages) {

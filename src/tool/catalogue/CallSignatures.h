@@ -3,6 +3,8 @@
 #include "tool/catalogue/Catalogue.h"
 #include "tool/diagnostics/Diagnostics.h"
 
+#include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +13,9 @@ namespace zem::msglib::tool {
 
 /// What a value has to be so that a message can use it.
 enum class ValueKind { any, text, number, time, numberAndTime };
+
+/// Returns the name of a kind: any, text, number, time, or number and time.
+const char* nameOf(ValueKind kind) noexcept;
 
 /// A parameter of a typed call.
 struct Parameter {
@@ -37,5 +42,13 @@ struct CallSignature {
 /// The "//" may be left out; KIND is `text`, `number`, `time` or `any`. A comment that is wrong or
 /// does not fit the text is reported, and counts only as far as it fits.
 std::vector<CallSignature> readSignatures(const Catalogue& catalogue, Diagnostics& diagnostics);
+
+/// Finds the same for all messages by their identifiers, also for those without a symbolic name.
+/// The names are left out.
+std::map<std::uint32_t, CallSignature> readSignaturesById(const Catalogue& catalogue,
+                                                          Diagnostics& diagnostics);
+
+/// Finds what a text in English (United States) asks for by itself, without comments and name.
+CallSignature readSignature(const Place& pattern);
 
 } // namespace zem::msglib::tool

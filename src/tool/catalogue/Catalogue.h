@@ -56,6 +56,9 @@ struct Catalogue {
 /// Returns an identifier as people write it: 0xC1230001.
 std::string hexadecimal(std::uint32_t id);
 
+/// Returns a language as people write it: 0x0409.
+std::string languageText(std::uint32_t language);
+
 /// Returns the name and identifier of a message for the words of a diagnostic:
 /// `MSG_COPIED (0x40120011)`, or the identifier alone.
 std::string describe(const Message& message);

@@ -18,8 +18,11 @@ using Command = std::function<ExitStatus()>;
 
 void addCheckCommand(CLI::App& program, Command& chosen);
 void addCompileCommand(CLI::App& program, Command& chosen);
+void addDiffCommand(CLI::App& program, Command& chosen);
+void addDumpCommand(CLI::App& program, Command& chosen);
 void addExplainCommand(CLI::App& program, Command& chosen);
 void addExplainRuleCommand(CLI::App& program, Command& chosen);
+void addQuoteCommand(CLI::App& program, Command& chosen);
 void addRenderCommand(CLI::App& program, Command& chosen);
 void addRulesCommand(CLI::App& program, Command& chosen);
 

@@ -4,26 +4,13 @@
 #include "tool/diagnostics/DiagnosticText.h"
 #include "tool/text/CannotRun.h"
 #include "tool/text/Progress.h"
+#include "tool/text/Terminal.h"
 
 #include <CLI/CLI.hpp>
 
-#include <unistd.h>
-
 #include <cstdio>
-#include <cstdlib>
 
 namespace zem::msglib::tool {
-
-namespace {
-
-/// Tells whether a standard stream is to be coloured.
-bool showsColours(const std::string& color, int descriptor) {
-    const char* const plain = std::getenv("NO_COLOR");
-    const bool isPlain = plain != nullptr && *plain != '\0';
-    return color == "always" || (color == "auto" && isTerminal(descriptor) && !isPlain);
-}
-
-} // namespace
 
 void DiagnosticOptions::addTo(CLI::App& command, const std::string& formOption) {
     command.add_option("--allow", allowed_, "Leave out the diagnostics of a rule")
@@ -44,9 +31,8 @@ void DiagnosticOptions::addTo(CLI::App& command, const std::string& formOption) 
 void DiagnosticOptions::write(const std::vector<Diagnostic>& diagnostics) const {
     const std::string text = form_ == "json"    ? jsonOf(diagnostics)
                              : form_ == "sarif" ? sarifOf(diagnostics)
-                             : form_ == "msvc"
-                                 ? msvcTextOf(diagnostics)
-                                 : textOf(diagnostics, showsColours(color_, STDERR_FILENO));
+                             : form_ == "msvc"  ? msvcTextOf(diagnostics)
+                                                : textOf(diagnostics, showsColours(color_, stderr));
     const bool isForPrograms = form_ == "json" || form_ == "sarif";
     std::FILE* const out = isForPrograms ? stdout : stderr;
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), out) == text.size();
@@ -56,7 +42,7 @@ void DiagnosticOptions::write(const std::vector<Diagnostic>& diagnostics) const 
 }
 
 bool DiagnosticOptions::coloursOutput() const {
-    return showsColours(color_, STDOUT_FILENO);
+    return showsColours(color_, stdout);
 }
 
 } // namespace zem::msglib::tool

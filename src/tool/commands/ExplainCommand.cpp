@@ -1,5 +1,6 @@
 #include "tool/commands/Command.h"
 #include "tool/commands/MessageInput.h"
+#include "tool/commands/OutputOptions.h"
 #include "tool/pattern/PatternTree.h"
 #include "tool/preview/Explanation.h"
 #include "tool/text/CannotRun.h"
@@ -27,7 +28,7 @@ ExitStatus explain(MessageInput& input) {
         words += text.title.empty() ? "" : colours.title(text.title) + '\n';
         words += text.pattern ? explanationOf(PatternTree(*text.pattern), colours)
                               : colours.note("no text in this language") + '\n';
-        writeOutput(words);
+        print(words);
     }
     return input.hasErrors() ? ExitStatus::errors : ExitStatus::success;
 }

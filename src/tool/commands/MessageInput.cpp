@@ -123,10 +123,4 @@ void MessageInput::addText(const IndexedMessage& message, const MessageText& tex
                       text.pattern, message.parameters, text.language == lookedUpLanguage});
 }
 
-void writeOutput(const std::string& text) {
-    if (!(std::cout << text << std::flush)) {
-        throw CannotRun("the text cannot be written");
-    }
-}
-
 } // namespace zem::msglib::tool

@@ -75,9 +75,4 @@ private:
     bool hasErrors_ = false;
 };
 
-/// Writes to standard output.
-///
-/// @throws CannotRun if that fails
-void writeOutput(const std::string& text);
-
 } // namespace zem::msglib::tool

@@ -1,5 +1,6 @@
 #include "tool/commands/Command.h"
 #include "tool/commands/MessageInput.h"
+#include "tool/commands/OutputOptions.h"
 #include "tool/pattern/PatternTree.h"
 #include "tool/preview/Rendering.h"
 #include "tool/preview/SampleTable.h"
@@ -12,7 +13,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <iostream>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -54,7 +54,7 @@ std::string tableText(const SampleTable& table, const Colours& colours) {
         text += "  " + colours.value(arguments[number]);
         text.append(count < width ? width - count : 0, ' ');
         text += arguments[number].empty() ? "" : "  ";
-        text += rendering.isFailure ? colours.failure("fails: " + line) : line;
+        text += rendering.isFailure ? colours.error("fails: " + line) : line;
         text += '\n';
     }
     for (const std::string& note : table.notes) {
@@ -80,7 +80,7 @@ void showSamples(const MessageInput& input, const Colours& colours) {
     Progress progress("rendering message", input.texts().size(), true);
     bool isFirst = true;
     for (const InputText& text : input.texts()) {
-        writeOutput((isFirst ? "" : "\n") + sampleText(text, colours));
+        print((isFirst ? "" : "\n") + sampleText(text, colours));
         progress.step();
         isFirst = false;
     }
@@ -95,9 +95,9 @@ bool showText(const MessageInput& input) {
     const InputText& text = input.texts().front();
     const Rendering rendering =
         text.pattern ? render(text.pattern->text(), arguments) : renderMissing();
-    writeOutput(std::string(withoutLineEnd(rendering.text)) + '\n');
+    print(std::string(withoutLineEnd(rendering.text)) + '\n');
     if (rendering.isFailure) {
-        std::cerr << "msglib: note: rendering fails, and these words take the message's place\n";
+        report("note: rendering fails, and these words take the message's place");
     }
     return !rendering.isFailure;
 }

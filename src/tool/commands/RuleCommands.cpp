@@ -1,11 +1,11 @@
 #include "tool/commands/Command.h"
+#include "tool/commands/OutputOptions.h"
 #include "tool/diagnostics/RulePage.h"
 #include "tool/text/CannotRun.h"
 #include "tool/text/Names.h"
 
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,16 +15,14 @@ namespace zem::msglib::tool {
 
 namespace {
 
-ExitStatus print(const std::string& text) {
-    if (!(std::cout << text << std::flush)) {
-        throw CannotRun("the text cannot be written");
-    }
+ExitStatus show(const std::string& text) {
+    print(text);
     return ExitStatus::success;
 }
 
 ExitStatus explain(const std::string& name) {
     if (const Rule* const rule = findRule(name)) {
-        return print(explanationOf(*rule));
+        return show(explanationOf(*rule));
     }
     std::vector<std::string_view> names;
     for (const Rule* const rule : allRules()) {
@@ -42,7 +40,7 @@ void addRulesCommand(CLI::App& program, Command& chosen) {
     CLI::App& command = *program.add_subcommand("rules", "List what is checked");
     command.add_flag("--markdown", *isPage, "Write the page of the documentation");
     command.callback([isPage, &chosen] {
-        chosen = [isPage] { return print(*isPage ? rulePage() : ruleList()); };
+        chosen = [isPage] { return show(*isPage ? rulePage() : ruleList()); };
     });
 }
 

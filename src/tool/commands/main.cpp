@@ -23,6 +23,9 @@ ExitStatus run(int argc, const char* const* argv) {
     Command chosen;
     addCompileCommand(program, chosen);
     addCheckCommand(program, chosen);
+    addDiffCommand(program, chosen);
+    addDumpCommand(program, chosen);
+    addQuoteCommand(program, chosen);
     addRulesCommand(program, chosen);
     addExplainRuleCommand(program, chosen);
     addRenderCommand(program, chosen);

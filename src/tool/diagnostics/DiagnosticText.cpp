@@ -1,6 +1,8 @@
 #include "tool/diagnostics/DiagnosticText.h"
 
+#include "tool/text/Colours.h"
 #include "tool/text/Unicode.h"
+#include "tool/text/Words.h"
 
 #include <algorithm>
 
@@ -16,26 +18,10 @@ constexpr std::size_t longestShown = 4 * shownCharacters; // in bytes
 constexpr std::size_t numberWidth = 5;
 constexpr const char* ellipsis = "…";
 
-/// What goes around the parts of a diagnostic on a terminal.
-struct Colours {
-    const char* place = "";
-    const char* error = "";
-    const char* warning = "";
-    const char* note = "";
-    const char* caret = "";
-    const char* end = "";
-
-    const char* of(Severity severity) const noexcept {
-        return severity == Severity::error ? error : severity == Severity::warning ? warning : note;
-    }
-};
-
-constexpr Colours terminalColours = {"\x1B[1m",    "\x1B[1;31m", "\x1B[1;35m",
-                                     "\x1B[1;36m", "\x1B[1;32m", "\x1B[0m"};
-
-/// Appends a character that a terminal shows as one, whatever it is.
-void appendVisible(std::string& out, std::string_view utf8, char32_t character) {
-    out += isControl(character) && character != '\t' ? std::string_view("\uFFFD") : utf8;
+std::string coloured(const std::string& words, Severity severity, const Colours& colours) {
+    return severity == Severity::error     ? colours.error(words)
+           : severity == Severity::warning ? colours.warning(words)
+                                           : colours.note(words);
 }
 
 /// Returns the position that is at most as many characters before another one.
@@ -66,7 +52,7 @@ public:
         for (std::size_t index = 0; index < shownCharacters && !rest.empty(); ++index) {
             const std::string_view before = rest;
             const char32_t character = takeCharacter(rest);
-            appendVisible(line_, before.substr(0, before.size() - rest.size()), character);
+            line_ += visible(before.substr(0, before.size() - rest.size()));
             if (index < column) {
                 below_ += character == '\t' ? '\t' : ' ';
             }
@@ -81,8 +67,7 @@ public:
         const std::string number = std::to_string(lineNumber);
         const std::size_t width = std::max(numberWidth, number.size());
         out += std::string(width - number.size(), ' ') + number + " | " + line_ + '\n';
-        out +=
-            std::string(width, ' ') + " | " + below_ + colours.caret + caret_ + colours.end + '\n';
+        out += std::string(width, ' ') + " | " + below_ + colours.good(caret_) + '\n';
     }
 
 private:
@@ -94,9 +79,9 @@ private:
 void appendHead(std::string& out, const Place& place, Severity severity, const std::string& words,
                 const Colours& colours) {
     const auto position = place.file->positionOf(place.offset);
-    out += colours.place + place.file->name() + ':' + std::to_string(position.line) + ':' +
-           std::to_string(position.column) + ": " + colours.end + colours.of(severity) +
-           nameOf(severity) + ": " + colours.end + words;
+    out += colours.title(place.file->name() + ':' + std::to_string(position.line) + ':' +
+                         std::to_string(position.column) + ": ") +
+           coloured(std::string(nameOf(severity)) + ": ", severity, colours) + words;
 }
 
 void appendExcerpt(std::string& out, const Place& place, const Colours& colours) {
@@ -117,7 +102,7 @@ const Place& placeOf(const Note& note, const Diagnostic& diagnostic) {
 } // namespace
 
 std::string textOf(const std::vector<Diagnostic>& diagnostics, bool isColoured) {
-    const Colours colours = isColoured ? terminalColours : Colours();
+    const Colours colours(isColoured);
     std::string out;
     for (const Diagnostic& diagnostic : diagnostics) {
         appendHead(out, diagnostic.place, diagnostic.severity, diagnostic.words, colours);

@@ -1,12 +1,8 @@
 #include "tool/pattern/Spelling.h"
 
-#include "msglib/MessageFormat.h"
-
-#include <boost/any.hpp>
+#include "tool/pattern/TextTrial.h"
 
 #include <array>
-#include <list>
-#include <stdexcept>
 
 namespace zem::msglib::tool {
 
@@ -18,22 +14,6 @@ constexpr std::size_t levels = 8; // deeper inside, even more would be needed
 /// How many apostrophes are needed inside as many choices as the position says.
 using Counts = std::array<std::size_t, levels>;
 
-/// Returns what a text inside as many choices shows.
-std::string rendered(const std::string& text, std::size_t depth) {
-    std::string pattern;
-    for (std::size_t level = 0; level < depth; ++level) {
-        pattern += "{0,choice,0#";
-    }
-    pattern += text + std::string(depth, '}');
-    std::string result;
-    try {
-        MessageFormat(pattern).format(std::list<boost::any>{0}, result);
-    } catch (const std::runtime_error&) {
-        result.clear();
-    }
-    return result;
-}
-
 /// Finds for each depth the least number of apostrophes that, in place of each of those in `text`,
 /// show `wanted`.
 Counts tryCounts(const std::string& text, const std::string& wanted) {
@@ -44,7 +24,7 @@ Counts tryCounts(const std::string& text, const std::string& wanted) {
             for (const char byte : text) {
                 tried += byte == '\'' ? std::string(count, byte) : std::string(1, byte);
             }
-            counts[depth] = rendered(tried, depth) == wanted ? count : 0;
+            counts[depth] = shownInside(depth, tried) == wanted ? count : 0;
         }
     }
     return counts;

@@ -58,7 +58,7 @@ private:
             return;
         }
         for (const SyntaxError& error : text().errors) {
-            line(0, colours_.failure("does not compile: " + error.words));
+            line(0, colours_.error("does not compile: " + error.words));
         }
         if (text().pieces.empty() && placeholders.empty() && text().errors.empty()) {
             line(0, "nothing");

@@ -11,9 +11,11 @@ public:
     explicit Colours(bool isOn = false) noexcept : isOn_(isOn) {}
 
     std::string title(std::string_view text) const { return around("\x1B[1m", text); }
+    std::string error(std::string_view text) const { return around("\x1B[1;31m", text); }
+    std::string warning(std::string_view text) const { return around("\x1B[1;35m", text); }
+    std::string note(std::string_view text) const { return around("\x1B[1;36m", text); }
+    std::string good(std::string_view text) const { return around("\x1B[1;32m", text); }
     std::string value(std::string_view text) const { return around("\x1B[36m", text); }
-    std::string failure(std::string_view text) const { return around("\x1B[1;31m", text); }
-    std::string note(std::string_view text) const { return around("\x1B[2m", text); }
 
 private:
     std::string around(const char* begin, std::string_view text) const {

@@ -1,10 +1,9 @@
 #include "tool/text/Progress.h"
 
-#include <unistd.h>
+#include "tool/text/Terminal.h"
 
-#include <cstdlib>
+#include <cstdio>
 #include <iostream>
-#include <string_view>
 #include <utility>
 
 namespace zem::msglib::tool {
@@ -18,8 +17,7 @@ constexpr std::chrono::milliseconds interval(100);
 
 Progress::Progress(std::string doing, std::size_t total, bool isPrinting)
     : Progress(std::move(doing), total,
-               isTerminal(STDERR_FILENO) && !(isPrinting && isTerminal(STDOUT_FILENO)) ? &std::cerr
-                                                                                       : nullptr,
+               isTerminal(stderr) && !(isPrinting && isTerminal(stdout)) ? &std::cerr : nullptr,
                &Clock::now) {}
 
 Progress::Progress(std::string doing, std::size_t total, std::ostream* out,
@@ -48,12 +46,6 @@ void Progress::show() {
     *out_ << '\r' << text << std::flush;
     width_ = text.size(); // which never shrinks, since the count grows
     next_ = now_() + interval;
-}
-
-bool isTerminal(int descriptor) {
-    const char* const kind = std::getenv("TERM");
-    const std::string_view terminal = kind != nullptr ? kind : "";
-    return isatty(descriptor) == 1 && !terminal.empty() && terminal != "dumb";
 }
 
 } // namespace zem::msglib::tool

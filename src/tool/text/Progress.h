@@ -44,9 +44,4 @@ private:
     std::size_t width_ = 0; ///< of what is shown
 };
 
-/// Tells whether a standard stream is a terminal that obeys escape sequences.
-///
-/// @param descriptor  1 for standard output, 2 for standard error
-bool isTerminal(int descriptor);
-
 } // namespace zem::msglib::tool

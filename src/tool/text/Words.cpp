@@ -46,6 +46,29 @@ std::string visibleLine(std::string_view bytes) {
     return line;
 }
 
+std::string visible(std::string_view text) {
+    std::string result;
+    while (!text.empty()) {
+        const std::string_view before = text;
+        const char32_t character = takeCharacter(text);
+        result += isControl(character) && character != '\t'
+                      ? std::string_view("\uFFFD")
+                      : before.substr(0, before.size() - text.size());
+    }
+    return result;
+}
+
+std::vector<std::string_view> linesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        const bool hasReturn = end < text.size() && end > 0 && text[end - 1] == '\r';
+        lines.push_back(text.substr(0, end - (hasReturn ? 1 : 0)));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
 std::string_view withoutBlanks(std::string_view text) noexcept {
     constexpr std::string_view blanks = " \t\n\v\f\r";
     const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zem::msglib::tool {
 
@@ -16,6 +17,14 @@ std::string shown(std::string_view text);
 /// Returns any bytes as one line for people: `↵` for a line end, and U+FFFD for each other control
 /// character and each byte that is not UTF-8.
 std::string visibleLine(std::string_view bytes);
+
+/// Returns valid UTF-8 with U+FFFD in place of each control character but tabs, so that a terminal
+/// shows it and does nothing else.
+std::string visible(std::string_view text);
+
+/// Returns the lines of a text without their ends, which are LF or CR LF. The last one need not have
+/// an end.
+std::vector<std::string_view> linesOf(std::string_view text);
 
 /// Returns the text without blanks and line ends at its start and end.
 std::string_view withoutBlanks(std::string_view text) noexcept;

@@ -1,0 +1,116 @@
+#include "tool/commands/Command.h"
+#include "tool/commands/OutputOptions.h"
+#include "tool/pattern/Quoter.h"
+#include "tool/text/CannotRun.h"
+#include "tool/text/Unicode.h"
+#include "tool/text/Words.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace zem::msglib::tool {
+
+namespace {
+
+constexpr std::size_t deepest = 8;
+
+struct QuoteOptions {
+    std::string text;
+    std::string place = "text";
+    std::optional<std::size_t> depth;
+};
+
+/// Returns a text with U+2019 in place of apostrophes, which has no meaning anywhere.
+std::string withTypographicApostrophes(const std::string& text) {
+    std::string result;
+    for (const char byte : text) {
+        result += byte == '\'' ? std::string("’") : std::string(1, byte);
+    }
+    return result;
+}
+
+/// Returns what to do where a text has no spelling.
+std::string advice(const QuoteOptions& options, const Quoter& quoter) {
+    const std::string other = withTypographicApostrophes(options.text);
+    if (other != options.text) {
+        if (const auto spelling = quoter.quote(other)) {
+            return "write ’ (U+2019) for an apostrophe: " + *spelling;
+        }
+    }
+    return options.place == "number" || options.place == "date"
+               ? "write it before or after the placeholder"
+               : "pass it as an argument";
+}
+
+/// Returns what a message text file cannot hold of a text; empty if it holds all.
+std::string limitOfFiles(const std::string& text) {
+    if (text.find_first_of("\r\x1A") != std::string::npos) {
+        return "a message text file cannot have a carriage return or Ctrl-Z in a text";
+    }
+    for (const std::string_view line : linesOf(text)) {
+        if (withoutBlanks(line) == ".") {
+            return "in a message text file, a line with \".\" alone ends the text";
+        }
+    }
+    return {};
+}
+
+ExitStatus quote(const QuoteOptions& options) {
+    if (validUtf8Length(options.text) < options.text.size()) {
+        throw CannotRun("the text is not UTF-8");
+    }
+    const std::size_t depth = options.depth.value_or(options.place == "choice" ? 1 : 0);
+    if (depth == 0 && options.place == "choice") {
+        throw CannotRun("the text of a choice is in 1 choice at least");
+    }
+    const TextPlace place = options.place == "number" ? TextPlace::number
+                            : options.place == "date" ? TextPlace::date
+                                                      : TextPlace::message;
+    const Quoter quoter(place, depth);
+    const auto spelling = quoter.quote(options.text);
+    if (!spelling) {
+        report("no spelling was found that shows it there; " + advice(options, quoter));
+        return ExitStatus::errors;
+    }
+    print(*spelling + '\n');
+    const std::string limit = limitOfFiles(options.text);
+    if (!limit.empty()) {
+        report("note: " + limit);
+    }
+    return ExitStatus::success;
+}
+
+} // namespace
+
+void addQuoteCommand(CLI::App& program, Command& chosen) {
+    const auto options = std::make_shared<QuoteOptions>();
+    CLI::App& command =
+        *program.add_subcommand("quote", "Say how a pattern has to write a text that is shown");
+    command.add_option("TEXT", options->text, "What is to be shown, as it is")->required();
+    command
+        .add_option("--in", options->place,
+                    "Where: text (of a message), choice (the text of one), number or date (text in "
+                    "a decimal or date style)")
+        ->type_name("PLACE")
+        ->check(CLI::IsMember({"text", "choice", "number", "date"}));
+    command
+        .add_option("--depth", options->depth,
+                    "In how many choices it is: 1 for a choice, else 0, if not given")
+        ->type_name("N")
+        ->check(CLI::Range(std::size_t{0}, deepest));
+    command.footer(
+        "The library is asked what the spelling shows before it is printed.\n\n"
+        "Examples:\n"
+        "  msglib quote \"use {0}, don't guess\"                '{'0'}' for {0}\n"
+        "  msglib quote \"It's full\" --in choice             the text of a choice\n"
+        "  msglib quote \"o'clock\" --in date --depth 1       a date style in a choice\n\n"
+        "Exit status: 0 if there is a spelling, 1 if none was found, 2 if the program could not "
+        "run.");
+    command.callback([options, &chosen] { chosen = [options] { return quote(*options); }; });
+}
+
+} // namespace zem::msglib::tool

@@ -9,7 +9,7 @@
 namespace zem::msglib {
 namespace {
 
-constexpr std::size_t most = TextOutput::largestRoom;
+constexpr std::size_t most = TextOutput::bufferSize;
 
 // Every change is made to a string of its own, too.
 TEST(TextOutput, GathersWhatAStringWould) {
@@ -33,20 +33,20 @@ TEST(TextOutput, GathersWhatAStringWould) {
                 break;
             case 1: {
                 const std::size_t room = std::min(size, most);
-                output.advanceTo(std::copy_n(piece.data(), room, output.room(most)));
+                output.advanceTo(std::copy_n(piece.data(), room, output.reserve(most)));
                 expected += piece.substr(0, room);
                 break;
             }
             case 2: earlier = output.size(); break;
             case 3:
-                output.cutTo(earlier);
+                output.truncate(earlier);
                 expected.resize(earlier);
                 break;
             default: output.append(piece); expected += piece;
             }
             ASSERT_EQ(output.size(), expected.size());
         }
-        output.finish();
+        output.flush();
         ASSERT_EQ(text, expected);
     }
 }

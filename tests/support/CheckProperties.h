@@ -56,7 +56,7 @@ inline bool choosesAsTheLibrary(const PatternTree& tree, const Placeholder& choi
         ChoiceSearch search(value);
         std::string_view chosen;
         for (const ChoiceEntry& entry : choice.entries) {
-            if (search.takes(entry.limit)) {
+            if (search.accepts(entry.limit)) {
                 chosen = tree.texts()[entry.text].text.text();
             }
         }

@@ -10,8 +10,8 @@
 
 namespace zem::msglib {
 
-/// A decimal pattern in fields, with the default symbols, and a second implementation of the text of
-/// a number, to compare the library with.
+/// A decimal pattern in fields, with the default symbols, and a second implementation of the text
+/// of a number, to compare the library with.
 ///
 /// Every operation that the definition rounds to binary64 is computed in whole numbers of any size
 /// and rounded once, and the text is put together from finished parts. So it shares neither the

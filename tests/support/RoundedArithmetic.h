@@ -3,8 +3,8 @@
 namespace zem::msglib {
 
 /// Binary64 operations on non-negative finite numbers, computed without any binary64 operation: the
-/// exact result is a quotient of whole numbers of any size, which is rounded to the nearest double, a
-/// tie to the one with an even last bit.
+/// exact result is a quotient of whole numbers of any size, which is rounded to the nearest double,
+/// a tie to the one with an even last bit.
 
 /// Returns the rounded sum.
 double roundedSum(double left, double right);

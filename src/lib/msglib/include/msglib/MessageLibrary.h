@@ -15,7 +15,7 @@ namespace zem::msglib {
 /// streams needs no other.
 ///
 ///     static const char inThisModule = 0;
-///     IMessageLibrary::instance().registerFacility(FACILITY_EDITOR, &inThisModule);
+///     IMessageLibrary::instance().registerFacility(0x12, &inThisModule);
 ///
 /// Threads: registering needs exclusive access to the one message library: no other registration
 /// and no rendering by identifier may run at the same time.
@@ -45,7 +45,7 @@ public:
     static IMessageLibrary& instance();
 
 protected:
-    /// Not virtual: no object is destroyed through this interface.
+    // Not virtual: no object is destroyed through this interface.
     ~IMessageLibrary() = default;
 };
 

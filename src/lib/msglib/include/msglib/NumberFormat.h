@@ -78,10 +78,10 @@ public:
     /// Returns the maximum number of integer digits. Higher digits are dropped.
     int getMaximumIntegerDigits() const { return maximumIntegerDigits_; }
 
-    /// Returns the minimum number of fraction digits. Trailing zeros fill it up.
+    /// Returns the minimum number of fraction digits. Shorter fractions are padded with zeros.
     int getMinimumFractionDigits() const { return minimumFractionDigits_; }
 
-    /// Returns the minimum number of integer digits. Leading zeros fill it up.
+    /// Returns the minimum number of integer digits. Shorter numbers are padded with zeros.
     int getMinimumIntegerDigits() const { return minimumIntegerDigits_; }
 
     /// Switches grouping on or off. The pattern determines the group size.
@@ -100,7 +100,7 @@ public:
     void setMinimumIntegerDigits(int value);
 
 protected:
-    /// All limits are zero and grouping is off until a derived class sets them.
+    // All limits are zero and grouping is off until a derived class sets them.
     NumberFormat() = default;
 
     bool groupingUsed_ = false;     ///< see `getGroupingUsed`

@@ -1,8 +1,8 @@
 #pragma once
 
 // Every digit follows from single operations of plain binary64 arithmetic, so sources that compute
-// with doubles include this header. It rejects options that macros and constants reveal. For
-// options that nothing reveals, cmake/PlainArithmetic.cpp looks for their effects.
+// with doubles include this header. It rejects compiler options that macros and constants reveal;
+// cmake/PlainArithmetic.cpp tests for the effects of those that nothing reveals.
 
 #include <cfloat>
 #include <limits>

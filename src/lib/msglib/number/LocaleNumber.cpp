@@ -177,8 +177,7 @@ void LocaleNumber::readValues() noexcept {
     }
 }
 
-// In a pattern without digit marks nothing ends the prefix, so it takes in what would be the
-// suffix.
+// In a pattern without digit marks nothing ends the prefix, so the suffix is part of it.
 void LocaleNumber::readCurrencyMark() noexcept {
     std::string_view& back = hasDigitMarks() ? affixes_.suffix : affixes_.prefix;
     switch (LocaleNumberValue(platform::LOCALE_ICURRENCY).first()) {

@@ -14,8 +14,10 @@ namespace zem::msglib::platform {
 /// The locale identifier of every query: English, without a country.
 constexpr std::uint32_t localeIdentifier = 9;
 
+/// The flag of `IsValidLocale`.
 constexpr std::uint32_t LCID_INSTALLED = 1;
 
+// The numbers of the locale values that the library queries.
 constexpr std::uint32_t LOCALE_SDECIMAL = 14;
 constexpr std::uint32_t LOCALE_STHOUSAND = 15;
 constexpr std::uint32_t LOCALE_SGROUPING = 16;

@@ -14,6 +14,7 @@ namespace zem::msglib::platform {
 /// A loaded module, given by the address where its image begins. It owns nothing.
 using HMODULE = const void*;
 
+// The flags of `FormatMessageW`, and the code page of `WideCharToMultiByte`.
 constexpr std::uint32_t FORMAT_MESSAGE_ALLOCATE_BUFFER = 0x100;
 constexpr std::uint32_t FORMAT_MESSAGE_IGNORE_INSERTS = 0x200;
 constexpr std::uint32_t FORMAT_MESSAGE_FROM_HMODULE = 0x800;

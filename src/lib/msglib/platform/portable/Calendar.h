@@ -16,6 +16,7 @@ namespace zem::msglib::platform {
 constexpr std::uint32_t firstYear = 1601;
 constexpr std::uint32_t lastYear = 30827;
 
+// The length of an era, the year in which the first one begins, and the days from then to day 0.
 constexpr std::uint32_t eraDays = 146097;
 constexpr std::uint32_t eraStartYear = 1600;
 constexpr std::uint32_t eraStartToDayZero = 306;

@@ -7,7 +7,7 @@
 
 // `TableReader` finds a message by a binary search over the blocks and a walk over the entries
 // inside one. `MessageText` measures the text up to its first NUL, eight units at a time, and
-// copies it. Every read goes through `Bytes`, which checks it.
+// copies it. Both stay inside bounds that `Bytes` has checked.
 
 namespace zem::msglib::platform {
 

@@ -1,5 +1,5 @@
-// A desktop program of three modules, each with its own messages: this program, a library that it is
-// linked with, and a plug-in that it loads at run time.
+// A desktop program of three modules, each with its own messages: this program, a library that it
+// is linked with, and a plug-in that it loads at run time.
 
 #include "DesktopMessagesCalls.h"
 #include "Ledger.h"

@@ -13,9 +13,9 @@ namespace zem::msglib {
 /// A decimal pattern in fields, with the default symbols, and a second implementation of the text
 /// of a number, to compare the library with.
 ///
-/// Every operation that the definition rounds to binary64 is computed in whole numbers of any size
-/// and rounded once, and the text is put together from finished parts. So it shares neither the
-/// arithmetic nor the steps of the library.
+/// Every binary64 operation is computed in whole numbers of any size and rounded once, and the text
+/// is put together from finished parts. So it shares neither the arithmetic nor the steps of the
+/// library.
 struct PlainDecimal {
     std::string prefix, suffix, negativePrefix, negativeSuffix;
     int multiplier;
@@ -28,10 +28,11 @@ struct PlainDecimal {
     /// Returns the text of `value`.
     ///
     /// @param steps  by how many doubles the quotient by a power of ten below all doubles differs
-    ///               from the nearest one: the definition leaves its last bits open
+    ///               from the nearest one: the last bits of that quotient may vary
     std::string text(double value, int steps = 0) const;
 
-    /// Returns whether `text` is the text of `value`, with those last bits open.
+    /// Returns whether `text` is the text of `value`, for any of the two next such quotients on
+    /// both sides.
     bool isText(const std::string& text, double value) const;
 
 private:

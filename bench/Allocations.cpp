@@ -13,7 +13,7 @@ std::size_t bench::allocations() {
     return allocationCount;
 }
 
-// The program's operators serve its shared libraries too.
+// Shared libraries use the program's operators too.
 void* operator new(std::size_t size) {
     ++allocationCount;
     if (void* block = std::malloc(size == 0 ? 1 : size)) {

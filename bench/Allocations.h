@@ -4,7 +4,7 @@
 
 namespace bench {
 
-/// Returns how many blocks the calling thread has taken from the heap so far.
+/// Returns the number of allocations of the calling thread so far.
 std::size_t allocations();
 
 } // namespace bench

@@ -37,7 +37,7 @@ void requireText(std::string_view entry, std::string_view actual, std::string_vi
 }
 
 void pinThread(std::size_t index) {
-    // Asked once, before the first thread is pinned.
+    // Queried once, before the first thread is pinned.
     static const std::vector<int> cores = usableCores();
     if (cores.empty()) {
         return;

@@ -12,17 +12,17 @@
 
 namespace bench {
 
-/// Ends the program with words if an entry doesn't give the text that it should.
+/// Ends the program with a message if the text of an entry isn't the expected one.
 void requireText(std::string_view entry, std::string_view actual, std::string_view expected);
 
-/// Returns a list of arguments, each of the type that it has here.
+/// Returns a list of arguments, each with its own type.
 template <class... Values>
 std::list<boost::any> arguments(const Values&... values) {
     return {boost::any(values)...};
 }
 
-/// Times `render`, which puts a text into the string that it is given, in the state that the last
-/// call left it.
+/// Times `render`, which replaces the contents of the string that it is given. The string is reused
+/// from call to call.
 template <class Render>
 void run(benchmark::State& state, const Render& render) {
     std::string out;
@@ -37,14 +37,14 @@ void run(benchmark::State& state, const Render& render) {
                                                        benchmark::Counter::kAvgIterations);
 }
 
-/// Registers an entry, named "workload/rival", whose text nobody checks here.
+/// Registers an entry, named "workload/rival", without checking its text.
 template <class Render>
 void addUnchecked(const std::string& name, Render render) {
     benchmark::RegisterBenchmark(name.c_str(),
                                  [render](benchmark::State& state) { run(state, render); });
 }
 
-/// Registers an entry, named "workload/rival", after a look at its text.
+/// Registers an entry, named "workload/rival", and checks its text.
 template <class Render>
 void add(const std::string& name, std::string_view expected, Render render) {
     std::string out;
@@ -53,7 +53,7 @@ void add(const std::string& name, std::string_view expected, Render render) {
     addUnchecked(name, render);
 }
 
-/// Keeps the calling thread on one core: the one with this index among those that the program may
+/// Pins the calling thread to one core: the one with this index among those that the program may
 /// use, or the last one.
 void pinThread(std::size_t index);
 

@@ -23,7 +23,7 @@ constexpr const char* domain = "bench";
 const std::string file = "Annual report.odt";
 const std::string folder = "Backup";
 
-/// Walks through all numbers of messages, from 0, far apart from one to the next.
+/// Visits all message numbers, from 0 on, with large steps between consecutive ones.
 class Walk {
 public:
     unsigned int next() {
@@ -36,8 +36,8 @@ private:
     unsigned int number_ = 0;
 };
 
-/// Makes gettext find the catalogue. Any locale but "C" has it look into the languages of LANGUAGE,
-/// and "C.UTF-8" is the one that every system has.
+/// Makes gettext find the catalogue. It reads the languages in LANGUAGE only under a locale other
+/// than "C", and every system has "C.UTF-8".
 void openGettextCatalogue() {
     std::setlocale(LC_MESSAGES, "C.UTF-8");
     setenv("LANGUAGE", "en", 1);
@@ -53,8 +53,8 @@ std::vector<std::string> gettextIdentifiers() {
     return identifiers;
 }
 
-/// Registers an entry for `render`, which puts the message of a number into a string, after a look
-/// at all the messages.
+/// Registers an entry for `render`, which stores the message with a number in a string, and checks
+/// all messages.
 template <class Render>
 void addMessages(const std::string& name, Render render) {
     for (unsigned int number = 0; number < messageCount; ++number) {

@@ -23,7 +23,7 @@ const int files = 1234;
 const std::string folder = "Backup";
 constexpr std::string_view choiceText = "1,234 files were copied to Backup.";
 
-/// Returns the one of three texts for a count, as a caller without choices in messages has to.
+/// Returns the text for a count, as callers must choose it if messages have no choices.
 template <class Text>
 const Text& choose(int count, const Text& none, const Text& one, const Text& many) {
     if (count <= 0) {
@@ -87,7 +87,7 @@ void addChoiceOfOthers() {
     });
 }
 
-// A point in time whose day and hour have two digits: the rivals would write a zero in front.
+// A point in time whose day and hour have two digits, since the rivals write leading zeros.
 const int seconds = 1234567890;
 constexpr std::string_view dateText = "Friday, February 13, 2009, 11:31:30 PM";
 
@@ -97,7 +97,7 @@ std::tm calendarTime(std::time_t time) {
     return result;
 }
 
-/// Appends the date and the time of day by the fields alone.
+/// Appends the date and the time of day without any pattern.
 void appendStraight(const std::tm& time, std::string& out) {
     static const char* const days[] = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                        "Thursday", "Friday", "Saturday"};

@@ -28,7 +28,7 @@ std::string fmtPlaceholder(Kind kind, const std::string& index) {
     }
 }
 
-/// The library multiplies a percentage itself; the rivals get it as it is read.
+/// The library multiplies a percentage by 100; the rivals get the product.
 boost::any argumentOf(const LongArgument& argument) {
     switch (argument.kind) {
     case Kind::Text: return argument.text;
@@ -68,7 +68,7 @@ void LongMessage::appendPlaceholder(Kind kind) {
     pattern.append("{").append(index).append(style(kind));
     fmtPattern += fmtPlaceholder(kind, index);
     texts_.push_back(std::exchange(lastText_, {}));
-    // Eighths and their hundredfold are exact, so that no rival has anything to round.
+    // Eighths and their products by 100 are exact, so the rivals don't differ in rounding.
     arguments_.push_back({kind, "argument " + index, number * 1001, number * 12.5});
 }
 

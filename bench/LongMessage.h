@@ -11,10 +11,10 @@
 
 namespace bench {
 
-/// What a placeholder of a long message asks for.
+/// The kinds of placeholders in a long message.
 enum class Kind { Text, Integer, Number, Percent, Currency };
 
-/// One argument of a long message; its kind tells which member counts.
+/// One argument of a long message. Its kind determines which member is used.
 struct LongArgument {
     Kind kind;
     std::string text;
@@ -24,24 +24,24 @@ struct LongArgument {
 
 /// A message of any length, in the form of each rival.
 ///
-/// Make it piece by piece; `finish` comes last. The formatting library's store refers to the
-/// arguments, so nobody copies it.
+/// Call `appendText` and `appendPlaceholder` in any order and `finish` at the end. Not copyable:
+/// {fmt}'s argument store refers to the arguments.
 class LongMessage {
 public:
     LongMessage() = default;
     LongMessage(const LongMessage&) = delete;
     LongMessage& operator=(const LongMessage&) = delete;
 
-    /// Appends text that has no meaning to any of the rivals.
+    /// Appends text that isn't syntax for any rival.
     void appendText(std::string_view text);
 
-    /// Appends a placeholder for the next argument, which becomes one of this kind.
+    /// Appends a placeholder for a new argument of this kind.
     void appendPlaceholder(Kind kind);
 
     /// Makes the lists of arguments.
     void finish();
 
-    /// Writes the message into `out` by straight-line code, as fast as it gets.
+    /// Appends the message to `out` without any pattern, as a lower bound for all rivals.
     void write(std::string& out) const;
 
     std::string pattern;
@@ -51,7 +51,7 @@ public:
 
 private:
     std::vector<LongArgument> arguments_;
-    std::vector<std::string> texts_; // texts_[i] stands in front of arguments_[i]
+    std::vector<std::string> texts_; // texts_[i] comes before arguments_[i]
     std::string lastText_;
 };
 

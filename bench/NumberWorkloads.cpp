@@ -79,7 +79,8 @@ void addStyles() {
             out.clear();
             message.format(list, out);
         });
-    // The others have neither percentages nor currencies: the caller multiplies and writes both.
+    // The rivals have neither percentages nor currencies, so the caller multiplies and writes the
+    // signs.
     static const double percent = share * 100;
     static const auto store = fmt::make_format_args(weight, percent, price);
     add("styles/fmt", stylesText, [locale = groupingLocale()](std::string& out) {
@@ -112,8 +113,8 @@ void addStylesOfOthers() {
     });
 }
 
-// Each of these appends one number with at most three fraction digits, as "#,##0.###" has them; the
-// rivals write trailing zeros too.
+// Each of these appends one number with at most three fraction digits, as "#,##0.###" does. The
+// rivals also write trailing zeros.
 
 auto byDecimalFormat() {
     return [decimal = DecimalFormat("#,##0.###", DecimalFormatSymbols(std::locale::classic()))](
@@ -151,7 +152,7 @@ void addDecimal(const std::string& name, std::string_view text, Format format) {
     });
 }
 
-/// Returns numbers of 1 to 17 digits with the decimal point at any place among them.
+/// Returns numbers of 1 to 17 digits with the decimal point at any position.
 std::vector<double> randomNumbers() {
     constexpr std::size_t count = 10000;
     std::mt19937_64 random(20010909);
@@ -167,8 +168,8 @@ std::vector<double> randomNumbers() {
     return numbers;
 }
 
-/// Ends the program unless `text` is `value` to three fraction digits. The last one may differ, as
-/// rivals round differently.
+/// Ends the program unless `text` is `value` to three fraction digits. The last digit may differ,
+/// since rivals round differently.
 void requireNumber(const std::string& name, std::string text, double value) {
     text.erase(std::remove(text.begin(), text.end(), ','), text.end());
     const double tolerance = 0.0005 + std::abs(value) * 1e-15;

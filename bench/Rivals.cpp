@@ -13,7 +13,7 @@ protected:
     std::string do_grouping() const override { return "\3"; }
 };
 
-/// Appends a number whose whole part, sign included, is the first `whole` bytes.
+/// Appends the text of a number with commas. Its first `whole` bytes are sign and integer digits.
 void appendGrouped(std::string_view number, std::size_t whole, std::string& out) {
     const std::size_t first = number.front() == '-' ? 1 : 0;
     std::size_t next = first + (whole - first - 1) % 3 + 1;

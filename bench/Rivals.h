@@ -6,13 +6,13 @@
 #include <string>
 #include <string_view>
 
-/// What the rivals of the library share.
+/// Shared by the rivals of the library.
 namespace bench {
 
-/// Returns a locale that writes numbers as the library does: "1,234,567.89".
+/// Returns a locale that formats numbers as the library does: "1,234,567.89".
 const std::locale& groupingLocale();
 
-/// Puts what `snprintf` writes into `out`.
+/// Replaces the contents of `out` by the output of `snprintf`.
 template <class... Values>
 void print(std::string& out, const char* format, Values... values) {
     char buffer[256];
@@ -23,7 +23,7 @@ void print(std::string& out, const char* format, Values... values) {
 /// Appends `value` with commas between groups of three digits.
 void appendGrouped(int value, std::string& out);
 
-/// The same with a fixed count of fraction digits.
+/// Appends `value` with commas and a fixed number of fraction digits.
 void appendGrouped(double value, int fractionDigits, std::string& out);
 
 /// Appends the digits of a whole number without grouping.

@@ -1,7 +1,7 @@
-# Runs during the installation: gives msglib.pc its prefix, and installs it. The prefix is relative to the file, so that an
-# installed tree can be moved, with two exceptions. Below /usr, pkg-config leaves out the compiler's own folders only if they
-# are spelled so, and -isystem /usr/include would hide the C library from the C++ one. Quotes in the path of the file would
-# end the values that begin with it.
+# Runs during the installation: writes the prefix into msglib.pc and installs it. The prefix is relative to the file, so that an
+# installed tree is relocatable, with two exceptions. Below /usr the prefix is absolute: pkg-config omits the compiler's own
+# folders only in that spelling, and -isystem /usr/include would hide the C library from the C++ library. If the path of the
+# file contains quotes, the prefix is absolute too: values that begin with it would end at the quote.
 
 if(pc_relative_prefix AND NOT CMAKE_INSTALL_PREFIX MATCHES "^/usr/?$|['\"]")
     set(pc_prefix "\${pcfiledir}/${pc_relative_prefix}")

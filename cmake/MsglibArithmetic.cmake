@@ -1,12 +1,12 @@
-# Every digit that the library writes follows from plain binary64 arithmetic, so a compiler that keeps more precision,
-# contracts a*b+c or assumes away NaN would change texts.
+# Every digit of a text follows from plain binary64 arithmetic. A compiler that keeps more precision, contracts a*b+c or
+# assumes that there is no NaN would change texts.
 
 include_guard(GLOBAL)
 
 set(MSGLIB_ARITHMETIC_OPTIONS -ffp-contract=off)
 set(MSGLIB_ARITHMETIC_PROBE ${CMAKE_CURRENT_LIST_DIR}/PlainArithmetic.cpp)
 
-# Stops the configuration if the flags of any build type loosen arithmetic. It looks each time, since flags change.
+# Stops the configuration if the flags of any build type relax arithmetic. The result isn't cached, since flags change.
 function(msglib_check_arithmetic)
     set(build_types ${CMAKE_BUILD_TYPE})
     if(CMAKE_CONFIGURATION_TYPES)
@@ -21,7 +21,7 @@ function(msglib_check_arithmetic)
 endfunction()
 
 function(_msglib_probe_arithmetic)
-    # What a parent project gives to all its targets.
+    # The options that a parent project sets for all its targets.
     get_directory_property(options COMPILE_OPTIONS)
     list(FILTER options INCLUDE REGEX "^-(O|.*math)")
     set(probe ${CMAKE_CURRENT_BINARY_DIR} ${MSGLIB_ARITHMETIC_PROBE}

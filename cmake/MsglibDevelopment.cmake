@@ -1,26 +1,27 @@
-# What the project's own targets are compiled with. Nothing here reaches the targets of a project that uses this one.
+# Compile options of the project's own targets. Nothing here affects the targets of a project that uses this one.
 
 include_guard(GLOBAL)
 include(MsglibArithmetic)
 include(MsglibHardening)
 
-# What is built holds no path of the folder that it is built in, so that it can be made again bit for bit. A debugger of the
-# configuration Debug finds the sources by their whole paths.
+# Built files contain no path of the build machine, so builds are reproducible bit for bit. Only the configuration Debug keeps
+# whole paths, by which a debugger finds the sources.
 set(MSGLIB_PATH_OPTIONS)
 foreach(map ${PROJECT_SOURCE_DIR}=. ${PROJECT_BINARY_DIR}=build)
     list(APPEND MSGLIB_PATH_OPTIONS $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${map}>)
 endforeach()
-# GNU's link-time optimiser writes debug information of its own, and can't be given a path with blanks or quotes.
+# GNU's link-time optimiser writes its own debug information and needs the option too, but can't parse a path with blanks or
+# quotes.
 set(MSGLIB_PATH_LINK_OPTIONS)
 if(NOT "${PROJECT_SOURCE_DIR}${PROJECT_BINARY_DIR}" MATCHES "[ '\"]")
     set(MSGLIB_PATH_LINK_OPTIONS ${MSGLIB_PATH_OPTIONS})
 endif()
 
-# Lets the linker optimise the shared library as a whole in release builds. A static one stays readable for any compiler.
+# Optimises the shared library at link time in release builds. A static library must stay readable for any compiler.
 include(CheckIPOSupported)
 check_ipo_supported(RESULT MSGLIB_LINK_TIME_OPTIMISATION OUTPUT ignored LANGUAGES CXX)
 
-# Gives a target of this project its warnings, its hardening or sanitizers, and hides what it does not export.
+# Sets the warnings and the hardening or sanitizers of one of this project's targets, and hides symbols by default.
 function(msglib_own_target target)
     set_target_properties(${target} PROPERTIES
         CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF

@@ -1,6 +1,6 @@
-# What makes a memory fault harder to exploit, in the library or in its callers: what the tool chain has of it. A
-# packager's own flags may say the same otherwise, so MSGLIB_HARDENING switches it off. Sanitizers find more, and don't go
-# together with all of it.
+# Options that make a memory fault in the library or its callers harder to exploit, as far as the tool chain has them.
+# MSGLIB_HARDENING turns them off for packagers whose own flags have the same purpose. Sanitizers find more faults, but conflict
+# with some of these options.
 
 include_guard(GLOBAL)
 include(CheckCXXCompilerFlag)
@@ -12,9 +12,9 @@ if(NOT MSGLIB_HARDENING OR MSGLIB_SANITIZE)
     return()
 endif()
 
-# The stack protector's functions may lie in a library of the compiler's, which it links for the option.
+# The stack protector's functions may be in a library of the compiler, which it links if the option is given.
 if(WIN32)
-    # Frames are probed page by page there anyway, and an image of GNU's tools can't tell of control-flow protection.
+    # On Windows, frames are always probed page by page, and GNU's tools can't mark an image for control-flow protection.
     set(compile_options -fstack-protector-strong)
     set(link_options
         -fstack-protector-strong LINKER:--dynamicbase LINKER:--nxcompat LINKER:--high-entropy-va)
@@ -31,8 +31,8 @@ foreach(option IN LISTS compile_options)
     endif()
 endforeach()
 
-# The linker marks an image only if every object is marked, and those of Debian's C library aren't. They return to where
-# they were called from all the same, which is all that a shadow stack asks for. Branch tracking asks for more.
+# The linker marks an image for shadow stacks only if every object is marked, and those of Debian's C library aren't. They all
+# return to their callers, which is enough for a shadow stack, so the mark is forced. Branch tracking needs more.
 if(MSGLIB_COMPILES_fcf_protection_full)
     list(APPEND link_options LINKER:-z,shstk)
 endif()
@@ -44,7 +44,7 @@ foreach(option IN LISTS link_options)
     endif()
 endforeach()
 
-# Checked forms of C's functions need optimisation. A level that the compiler has by itself is replaced without a warning.
+# The checked variants of C functions need optimisation. Undefining the macro first avoids a warning if the compiler defines it.
 list(APPEND MSGLIB_HARDENING_COMPILE_OPTIONS
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE>
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)

@@ -1,5 +1,5 @@
-# The install rules, in three components: Runtime, the shared library; Development, all that it takes to compile and link
-# with the library; Tools, the program that compiles catalogues, which serves any target system.
+# The install rules, in three components: Runtime, the shared library; Development, everything needed to compile and link with
+# the library; Tools, the program that compiles catalogues for any target system.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -21,8 +21,8 @@ install(EXPORT msglibTargets NAMESPACE msglib:: DESTINATION ${package_dir} COMPO
 install(DIRECTORY src/lib/msglib/include/ src/lib/geom/include/
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development FILES_MATCHING PATTERN *.h)
 
-# Exported apart from the library, so that either works without the other. A program of the build's own system has no place
-# in the prefix of another one.
+# Exported separately from the library, so that each works without the other. A program for the build system doesn't belong in
+# a prefix for another system.
 if(TARGET ${MSGLIB_TOOL_TARGET} AND NOT CMAKE_CROSSCOMPILING)
     install(TARGETS ${MSGLIB_TOOL_TARGET} EXPORT msglibToolTargets RUNTIME COMPONENT Tools)
     install(EXPORT msglibToolTargets NAMESPACE msglib:: DESTINATION ${package_dir} COMPONENT Tools)

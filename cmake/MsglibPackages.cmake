@@ -1,4 +1,4 @@
-# Packages of the installed components, by `cpack -G DEB` in a tree that is configured for the prefix /usr.
+# Debian packages of the installed components, made by `cpack -G DEB` in a tree that is configured with the prefix /usr.
 
 set(CPACK_PACKAGE_NAME msglib)
 set(CPACK_PACKAGE_VENDOR "msglib maintainers")
@@ -16,10 +16,10 @@ endif()
 if(TARGET ${MSGLIB_TOOL_TARGET} AND NOT CMAKE_CROSSCOMPILING)
     list(APPEND CPACK_COMPONENTS_ALL Tools)
 endif()
-# Packages are installed below their own prefix, whatever that of the tree is.
+# The prefix of packages is /usr, whatever that of the tree is.
 set(CPACK_SET_DESTDIR ON)
 set(CPACK_INSTALL_PREFIX /usr)
-# The folders of packages have these permissions, whatever umask they are made under.
+# The folders of packages have these permissions, whatever the umask of the build is.
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_STRIP_FILES ON)
@@ -55,7 +55,7 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
     "The program that compiles message catalogues into modules, called by the\nCMake function msglib_add_catalogue.")
 
-# Fields that CPack writes since 3.31.
+# CPack writes these fields from version 3.31 on.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_MULTIARCH same)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_MULTIARCH same)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_MULTIARCH foreign)

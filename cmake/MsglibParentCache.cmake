@@ -1,6 +1,6 @@
-# As part of another project, this one shares its cache. What find_package and CMake's own modules add there between the two
-# calls is removed again: a package that was found for us must not decide what the parent finds. Entries of languages stay,
-# and so does what has our prefix or was there before.
+# As part of another project, this one shares its cache. Entries that find_package and CMake's own modules add between the two
+# calls are removed again: a package that this project finds must not affect what the parent finds. Entries of languages,
+# entries with our prefix and earlier entries are kept.
 
 include_guard(GLOBAL)
 

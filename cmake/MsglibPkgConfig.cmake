@@ -1,4 +1,4 @@
-# Makes msglib.pc, but for the prefix, which only the installation knows. Folders are relative to the prefix if they lie in it.
+# Writes msglib.pc except for the prefix, which is only known at installation. Folders inside the prefix are relative to it.
 
 set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 cmake_path(APPEND pc_libdir "\${prefix}" "${CMAKE_INSTALL_LIBDIR}")
@@ -15,7 +15,7 @@ get_target_property(pc_link_options msglib INTERFACE_LINK_OPTIONS)
 if(NOT pc_link_options)
     set(pc_link_options)
 endif()
-# A linker that isn't called by the C++ compiler needs its run-time library named.
+# Another linker driver than the C++ compiler needs the names of the C++ run-time libraries.
 set(pc_private_libraries ${CMAKE_CXX_IMPLICIT_LINK_LIBRARIES})
 list(FILTER pc_private_libraries INCLUDE REGEX "^(stdc\\+\\+|c\\+\\+|m)$")
 list(REMOVE_DUPLICATES pc_private_libraries)

@@ -1,4 +1,4 @@
-// Compiles and exits with 0 if arithmetic is plain binary64; otherwise prints what isn't.
+// Compiles and exits with 0 if arithmetic is plain binary64. Otherwise it prints the violated rule.
 
 #include "base/Binary64.h"
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-// Returns a value that no compiler knows.
+// Returns a value that the compiler can't know.
 double hidden(double value) {
     volatile double store = value;
     return store;

@@ -17,22 +17,23 @@
 #include <string_view>
 #include <utility>
 
-/// A fuzzer's target: checks what one input leads to, and ends the program on a find.
+/// The entry point of a fuzzer: checks the properties for one input and aborts if one is violated.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-/// What the fuzzers share: reading an input, and properties that hold for every formatter.
+/// Shared by the fuzzers: reading an input, and properties that hold for every formatter.
 namespace zem::msglib::fuzzing {
 
 using Arguments = std::list<boost::any>;
 
-/// Inputs that a target has to stand one and all: up to five of the `bytes`, behind the `line`.
+/// Inputs that the replay program generates: the `line`, followed by every text of up to five of
+/// the `bytes`.
 struct ShortInputs {
     std::string_view line;
     std::string_view bytes;
 };
 extern const ShortInputs shortInputs;
 
-/// Ends the program, which is a find, unless `holds`.
+/// Aborts the program unless `holds`.
 inline void require(bool holds, const char* property) {
     if (!holds) {
         std::fprintf(stderr, "property violated: %s\n", property);
@@ -40,7 +41,7 @@ inline void require(bool holds, const char* property) {
     }
 }
 
-/// An input whose first line tells the values, and the rest the pattern.
+/// An input: the values in the first line, the pattern after it.
 struct Input {
     Input(const std::uint8_t* data, std::size_t size) : whole(data, data + size) {
         const std::size_t end = std::min(whole.find('\n'), size);
@@ -55,8 +56,8 @@ struct Input {
     std::string rest;
 };
 
-/// Returns a pattern for `text`: each of the `syntax` bytes between quotes, and for a quote
-/// `quoteForm`.
+/// Returns a pattern for `text`: each of the `syntax` bytes is quoted, and each apostrophe is
+/// replaced by `quoteForm`.
 inline std::string quoted(const std::string& text, std::string_view syntax,
                           std::string_view quoteForm) {
     std::string pattern;
@@ -69,7 +70,7 @@ inline std::string quoted(const std::string& text, std::string_view syntax,
     return pattern;
 }
 
-inline bool isDocumented(const std::string& words) {
+inline bool isDocumented(const std::string& message) {
     static const std::set<std::string> documented = {
         "unexpected closing brace",
         "Illegal argument in format string",
@@ -84,11 +85,11 @@ inline bool isDocumented(const std::string& words) {
         "zero mark following digit",
         "digit mark (#) following zero-index",
         "digit mark (#) following zero in exponent"};
-    return documented.count(words) != 0;
+    return documented.count(message) != 0;
 }
 
-/// Returns the words that `operation` fails with, empty if it succeeds. Any failure that is not
-/// documented is a find.
+/// Returns the text of the failure of `operation`, or nothing if it succeeds. An undocumented
+/// failure violates a property.
 template <class Operation>
 std::string failureOf(const Operation& operation) {
     try {
@@ -104,18 +105,18 @@ std::string failureOf(const Operation& operation) {
     return {};
 }
 
-/// A text, and the words of the failure that ended it.
+/// A text, and the text of the failure that ended it.
 using Outcome = std::pair<std::string, std::string>;
 
 template <class Formatter, class Value>
 Outcome rendered(const Formatter& formatter, const Value& value, const std::string& earlier) {
     std::string out = earlier;
     std::string failure = failureOf([&] { formatter.format(value, out); });
-    require(out.compare(0, earlier.size(), earlier) == 0, "earlier bytes stay");
+    require(out.compare(0, earlier.size(), earlier) == 0, "earlier bytes are kept");
     return {out.substr(earlier.size()), std::move(failure)};
 }
 
-/// Renders a value, which has to come out the same behind other bytes and from a copy.
+/// Renders a value. The text must be the same after other bytes and from a copy.
 template <class Formatter, class Value>
 Outcome steadilyRendered(const Formatter& formatter, const Value& value) {
     Outcome outcome = rendered(formatter, value, "");
@@ -124,10 +125,10 @@ Outcome steadilyRendered(const Formatter& formatter, const Value& value) {
     return outcome;
 }
 
-/// Compiles `pattern` in a formatter that had another one before. Even if it doesn't compile, it
-/// must not matter which one that was.
+/// Compiles `pattern` in a formatter that had another pattern before. The former pattern must not
+/// matter, even if `pattern` doesn't compile.
 ///
-/// @return the failure of the compilation
+/// @return the failure of compiling
 template <class Formatter, class Value>
 std::string compile(const std::string& pattern, const Value& value, Formatter& formatter,
                     Formatter other) {
@@ -138,26 +139,27 @@ std::string compile(const std::string& pattern, const Value& value, Formatter& f
     return failure;
 }
 
-inline Outcome renderedAtOnce(const std::string& pattern, const Arguments& args) {
+inline Outcome directlyRendered(const std::string& pattern, const Arguments& args) {
     std::string text;
     std::string failure =
         failureOf([&] { text = MessageLibrary::instance().formatMessage(pattern, args); });
     return {std::move(text), std::move(failure)};
 }
 
-/// Compiles and renders a message in every way there is, all with the same outcome.
+/// Compiles and renders a message in every way. All must have the same outcome.
 inline void checkMessage(const std::string& pattern, const Arguments& args) {
     MessageFormat message("{0,number,#.00;(#)} {0,choice,0#{1}}.");
-    const Outcome atOnce = renderedAtOnce(pattern, args);
+    const Outcome direct = directlyRendered(pattern, args);
     const std::string failure = compile(pattern, args, message, MessageFormat("former"));
     if (!failure.empty()) {
-        require(atOnce == Outcome("", failure), "fails at once as in compiling");
+        require(direct == Outcome("", failure), "rendering directly fails as compiling does");
         return;
     }
     const Outcome kept = rendered(message, args, "");
     message.setLocale(message.getLocale());
     require(rendered(message, args, "") == kept, "the same locale changes nothing");
-    require(atOnce == (kept.second.empty() ? kept : Outcome("", kept.second)), "the same at once");
+    require(direct == (kept.second.empty() ? kept : Outcome("", kept.second)),
+            "rendering directly gives the same");
 }
 
 } // namespace zem::msglib::fuzzing

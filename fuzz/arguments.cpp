@@ -1,5 +1,5 @@
-// Messages with arguments of all kinds. The first line has them between "|", a letter for the kind
-// in front of each, and the pattern is behind it.
+// Message patterns with arguments of all kinds. The input is a line of arguments, separated by "|"
+// and each after a letter for its kind, and a pattern after it.
 
 #include "Properties.h"
 #include "msglib/MessageFormatStream.h"
@@ -12,7 +12,7 @@
 namespace zem::msglib::fuzzing {
 namespace {
 
-// Hands the argument that `text` stands for to `sink`, in its own type.
+// Calls `sink` with the argument that `kind` and `text` describe, in its own type.
 template <class Sink>
 void readArgument(char kind, const std::string& text, const Sink& sink) {
     const long long integer = std::strtoll(text.c_str(), nullptr, 10);
@@ -36,12 +36,12 @@ void readArgument(char kind, const std::string& text, const Sink& sink) {
     }
 }
 
-// The kinds that a stream stores as they are.
+// True for the types that a stream stores unchanged.
 template <class Value>
 constexpr bool isStreamed = std::is_same_v<Value, std::string> || std::is_same_v<Value, double> ||
                             (std::is_integral_v<Value> && sizeof(Value) >= sizeof(int));
 
-// The same arguments as a list and, as long as it takes them, in a stream.
+// The same arguments in a list and, if their types allow it, in a stream.
 struct BothWays {
     explicit BothWays(const std::string& pattern) : stream(pattern.c_str()) {}
 
@@ -71,11 +71,12 @@ Outcome streamText(const MessageFormatStream& stream) {
 void checkStream(const MessageFormatStream& stream, const Outcome& expected) {
     MessageFormatStream joined("'{'");
     joined << stream;
-    require(streamText(MessageFormatStream(stream)) == expected, "a copied stream gives the same");
-    require(streamText(stream) == expected, "so does a stream");
+    require(streamText(MessageFormatStream(stream)) == expected,
+            "a copied stream renders the same");
+    require(streamText(stream) == expected, "a stream renders the same");
     require(streamText(joined) ==
                 Outcome(expected.second.empty() ? "{" + expected.first : "", expected.second),
-            "so does a stream that it is joined to");
+            "a joined stream appends the same");
 }
 
 } // namespace
@@ -94,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkMessage(input.rest, message.args);
     if (message.streamed) {
         checkStream(message.stream,
-                    renderedAtOnce(input.rest.substr(0, input.rest.find('\0')), message.args));
+                    directlyRendered(input.rest.substr(0, input.rest.find('\0')), message.args));
     }
     return 0;
 }

@@ -1,4 +1,4 @@
-// The language of choices: a number in the first line, a pattern behind it.
+// Choice patterns. The input is a number in the first line and a pattern after it.
 
 #include "Properties.h"
 #include "msglib/ChoiceFormat.h"
@@ -9,7 +9,7 @@
 namespace zem::msglib::fuzzing {
 namespace {
 
-// Lines are the texts of ascending limits 0, 1, 2 ...; every other limit is no part of its range.
+// The lines are the texts for the limits 0, 1, 2 and so on. Odd limits are exclusive.
 void checkChosen(const std::string& lines, double value) {
     std::istringstream input(lines);
     std::string pattern = "0#";
@@ -26,7 +26,7 @@ void checkChosen(const std::string& lines, double value) {
         }
     }
     require(rendered(ChoiceFormat(pattern), value, "").first == chosen,
-            "chooses by ascending limits");
+            "the limits choose the text");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The language of dates: seconds in the first line, a pattern behind it.
+// Date patterns. The input is a number of seconds in the first line and a pattern after it.
 
 #include "Properties.h"
 #include "msglib/SimpleDateFormat.h"
@@ -10,7 +10,8 @@ Outcome dateText(const std::string& pattern, const boost::any& seconds) {
     return steadilyRendered(SimpleDateFormat(pattern, std::locale()), seconds);
 }
 
-// Two patterns in a row give both texts, if neither a run nor a quote goes on across the seam.
+// Two halves of a pattern give the two halves of its text, unless the seam is inside a run or
+// quoted text.
 void checkSeam(const std::string& pattern, const boost::any& seconds, const std::string& whole) {
     const std::size_t seam = pattern.size() / 2;
     const auto quotes =
@@ -19,7 +20,7 @@ void checkSeam(const std::string& pattern, const boost::any& seconds, const std:
         require(dateText(pattern.substr(0, seam), seconds).first +
                         dateText(pattern.substr(seam), seconds).first ==
                     whole,
-                "runs stand alone");
+                "runs are independent");
     }
 }
 
@@ -39,6 +40,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(outcome.second.empty(), "a number never fails");
     checkSeam(input.rest, value, outcome.first);
     require(dateText("'" + quoted(input.rest, "", "''") + "'", value).first == input.rest,
-            "quoted text is itself");
+            "quoted text is appended unchanged");
     return 0;
 }

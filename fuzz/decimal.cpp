@@ -1,4 +1,4 @@
-// The language of decimal patterns: a number in the first line, a pattern behind it.
+// Decimal patterns. The input is a number in the first line and a pattern after it.
 
 #include "Properties.h"
 #include "msglib/DecimalFormat.h"
@@ -15,7 +15,7 @@ void checkPattern(const std::string& pattern, double value) {
     require(rendered(format, boost::any(value), "") == outcome, "the same as an argument");
 }
 
-// Takes the fields of a pattern from the bytes of a text: six counts, and the prefix.
+// Makes the fields of a pattern from the bytes of a text: six counts, then the prefix.
 PlainDecimal fieldsFrom(std::string bytes) {
     bytes.resize(std::max<std::size_t>(bytes.size(), 6));
     const auto count = [&](std::size_t at, int most) {
@@ -57,13 +57,14 @@ std::string patternOf(const PlainDecimal& fields) {
 void checkFields(PlainDecimal fields, double value) {
     const DecimalFormat format(patternOf(fields), {});
     fields.suffix += fields.multiplier == 100 ? "%" : "";
-    require(rendered(format, value, "").first == fields.text(value), "agrees with plain reading");
+    require(fields.isText(rendered(format, value, "").first, value),
+            "agrees with exact arithmetic");
     if (fields.minimumExponentDigits < 0 && value >= INT32_MIN && value <= INT32_MAX) {
         const long whole = static_cast<long>(value);
         fields.multiplier = 1;
         fields.maximumFractionDigits = fields.minimumFractionDigits;
         require(rendered(format, whole, "").first == fields.text(static_cast<double>(whole)),
-                "a whole number agrees with plain reading");
+                "a whole number agrees with exact arithmetic");
     }
 }
 

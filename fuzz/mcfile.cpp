@@ -1,4 +1,5 @@
-// Message text files of any bytes: read, checked, compiled and read back.
+// Message text files. The input is an encoding in the first line and a file after it, which is
+// read, checked, compiled and read back.
 
 #include "Properties.h"
 
@@ -31,7 +32,7 @@ void checkPlace(const Place& place) {
             "a place is some characters of its file");
 }
 
-/// Tells whether the diagnostics have words and places that exist, in every form.
+/// Checks that the diagnostics have words and valid places, and are UTF-8 in every format.
 void checkDiagnostics(const std::vector<Diagnostic>& diagnostics) {
     std::size_t last = 0;
     for (const Diagnostic& diagnostic : diagnostics) {
@@ -69,7 +70,7 @@ void checkTables(const Catalogue& catalogue, std::size_t entriesPerBlock) {
             std::u16string units(found.length(), u'\0');
             found.copyTo(units.data());
             require(boost::locale::conv::utf_to_utf<char>(units) == withCrLf(text.pattern.text()),
-                    "a text is found as the file has it");
+                    "the table has the text of the file");
         }
     }
     require(sourceText(CatalogueName("a.mc"), catalogue, tables).find(")asm") != std::string::npos,

@@ -1,4 +1,4 @@
-// The language of messages, with texts for arguments.
+// Message patterns, with text arguments. The whole input is the pattern.
 
 #include "Properties.h"
 
@@ -11,13 +11,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const std::string pattern = quoted(text, "{}", "'''");
     const Outcome expected(text + text + text, "");
-    require(renderedAtOnce(pattern + "{0}" + pattern, {text}) == expected,
-            "quoted text and arguments come out as they are");
+    require(directlyRendered(pattern + "{0}" + pattern, {text}) == expected,
+            "quoted text and arguments are appended unchanged");
     require(rendered(zem::msglib::MessageFormat(pattern + "{0}" + pattern), Arguments{text}, "") ==
                 expected,
-            "the same from a kept message");
+            "a compiled message gives the same");
     const std::string spaced = quoted(text, "", "'.");
-    require(renderedAtOnce(quoted(spaced, "{}", "''"), {}) == Outcome(spaced, ""),
-            "two quotes are one");
+    require(directlyRendered(quoted(spaced, "{}", "''"), {}) == Outcome(spaced, ""),
+            "two apostrophes are one");
     return 0;
 }

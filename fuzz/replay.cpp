@@ -1,4 +1,4 @@
-// Runs a target over all files of a folder and over every short input, without a fuzzer.
+// Runs a target without a fuzzer, over all files of a folder and over every short input.
 
 #include "Properties.h"
 
@@ -16,7 +16,7 @@ void run() {
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
 }
 
-/// Runs the input with every text of up to `length` of the `bytes` behind it.
+/// Runs the input, followed by every text of up to `length` of the `bytes`.
 void runLonger(int length, std::string_view bytes) {
     run();
     for (const char byte : length > 0 ? bytes : "") {

@@ -1,4 +1,4 @@
-// Message tables and notes of any bytes.
+// Message tables and note segments. The input is the bytes of a table, or of a segment.
 
 #include "Properties.h"
 #include "platform/portable/NoteReader.h"
@@ -30,7 +30,7 @@ void appendNumber(std::string& bytes, std::uint32_t number) {
     bytes.append(raw, sizeof raw);
 }
 
-// A note segment: a note that is no table, and one that holds the table.
+// Returns a note segment: a note without a table, and one that contains the table.
 std::string notesOf(const std::string& table) {
     std::string notes("\4\0\0\0\0\0\0\0\1\0\0\0GNU\0", 16);
     appendNumber(notes, 11);
@@ -42,11 +42,11 @@ std::string notesOf(const std::string& table) {
     return notes + table;
 }
 
-// The ends of the first blocks, and what lies beside them.
+// Returns the identifiers at the ends of the first blocks, and their neighbours.
 std::set<std::uint32_t> interestingIds(Bytes table) {
-    constexpr std::size_t mostBlocks = 8;
+    constexpr std::size_t maxBlocks = 8;
     std::set<std::uint32_t> ids = {0, 1, UINT32_MAX};
-    for (std::size_t block = 0; block < mostBlocks; ++block) {
+    for (std::size_t block = 0; block < maxBlocks; ++block) {
         for (const std::size_t offset : {4 + 12 * block, 8 + 12 * block}) {
             const std::uint32_t end = table.u32(offset);
             ids.insert({end - 1, end, end + 1});
@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             require(unitsOf(findInNotes(notes, alignment, language, id)) == text,
                     "a note gives the texts of its table");
             require(findInNotes(notes, alignment, language + 1, id).isEmpty(),
-                    "and in its language only");
+                    "only in its language");
             unitsOf(findInNotes(table, alignment, language, id));
         }
     }

@@ -1,10 +1,10 @@
-# Puts the documents that each Debian package has to have into what CPack has gathered for it.
+# Adds the documents that every Debian package needs to the files that CPack has collected for it.
 
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
 endif()
 
-# The time is SOURCE_DATE_EPOCH if the environment has it, so that packages can be made again bit for bit.
+# The time is SOURCE_DATE_EPOCH if that is set, so that packages are reproducible bit for bit.
 string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 set(changelog "${CPACK_DEBIAN_PACKAGE_SOURCE} (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
 

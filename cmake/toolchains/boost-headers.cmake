@@ -1,5 +1,5 @@
-# Boost's headers serve every system, but the folder that they lie in has headers of this one's C library too. A link
-# to Boost alone keeps those away from the compiler.
+# Boost's headers work for every system, but their folder also contains headers of the build system's C library. A folder with
+# a link to Boost alone hides those from the compiler.
 
 set(headers ${CMAKE_BINARY_DIR}/foreign-headers)
 file(MAKE_DIRECTORY ${headers}/include)

@@ -1,8 +1,8 @@
-# Compiles for Linux on another processor, by a cross compiler of Debian's. Its name, and the program that runs what it
-# makes, are given as CMAKE_CXX_COMPILER and CMAKE_CROSSCOMPILING_EMULATOR.
+# Compiles for Linux on another processor, with a cross compiler of Debian. CMAKE_CXX_COMPILER is its name, and
+# CMAKE_CROSSCOMPILING_EMULATOR the program that runs the results.
 
 set(CMAKE_SYSTEM_NAME Linux)
 include(${CMAKE_CURRENT_LIST_DIR}/boost-headers.cmake)
 
-# Programs run without the libraries of their system.
+# Programs are linked statically, so that they run without the libraries of their system.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)

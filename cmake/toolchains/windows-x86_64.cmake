@@ -1,4 +1,4 @@
-# Compiles for 64-bit Windows on Debian, by g++-mingw-w64-x86-64-posix, and runs programs under Wine.
+# Compiles for 64-bit Windows on Debian, with g++-mingw-w64-x86-64-posix, and runs programs under Wine.
 
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
@@ -10,11 +10,11 @@ set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/wine)
 list(APPEND CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
 include(${CMAKE_CURRENT_LIST_DIR}/boost-headers.cmake)
 
-# Programs and libraries run without the compiler's own libraries beside them.
+# Programs and libraries contain the compiler's run-time libraries.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
 set(CMAKE_MODULE_LINKER_FLAGS_INIT -static)
 
-# A program finds the libraries that lie beside it.
+# A program finds the libraries in its own folder.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)

@@ -2,10 +2,10 @@
 
 #include <string>
 
-/// A plug-in that stays loaded, since its messages may be asked for at any later time.
+/// A plug-in that stays loaded, since its messages may be rendered at any later time.
 class PlugIn {
 public:
-    /// Opens the plug-in `name`, which lies beside the program.
+    /// Opens the plug-in `name`, which is in the program's folder.
     ///
     /// @throws std::runtime_error if it can't be opened
     explicit PlugIn(const std::string& name);

@@ -1,5 +1,5 @@
-// A desktop program of three modules, each with messages of its own: this program, a library that
-// it is linked to, and a plug-in that it opens at run time.
+// A desktop program of three modules, each with its own messages: this program, a library that it
+// is linked with, and a plug-in that it loads at run time.
 
 #include "DesktopMessagesCalls.h"
 #include "Ledger.h"
@@ -54,7 +54,7 @@ void renderPatterns() {
               << '\n';
 }
 
-// The compiler refuses typed calls that would fail like these, so they are streams.
+// Typed calls that fail like these don't compile, so they are streams.
 void showFailures() {
     std::cout << '\n' << MessageFormatStream(MSG_NOT_OPENED).toString() << '\n';
     std::cout << MessageFormatStream(MSG_NOT_OPENED + 1).toString() << '\n';

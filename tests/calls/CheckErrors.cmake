@@ -1,4 +1,4 @@
-# Compiles SOURCE and compares the errors with those in its comments: each call has one, and there is no other.
+# Compiles SOURCE and compares the errors with those in its comments: exactly one for each call.
 
 file(STRINGS ${SOURCE} expected REGEX "^ *// error: ")
 list(TRANSFORM expected REPLACE "^ *// error: (.+)$" "CallTexts::\\1")
@@ -19,5 +19,5 @@ list(SORT found)
 if(NOT found STREQUAL expected)
     list(JOIN expected "\n" expected)
     list(JOIN found "\n" found)
-    message(FATAL_ERROR "Expected are the errors\n${expected}\nbut there are\n${found}")
+    message(FATAL_ERROR "Expected these errors:\n${expected}\nFound these:\n${found}")
 endif()

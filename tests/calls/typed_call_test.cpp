@@ -1,5 +1,5 @@
-// What a typed call gives is the stream that is written by hand, whatever types of a kind it takes.
-// Calls that must not compile are those of wrong_calls.cpp.
+// A typed call returns the same stream as one written by hand, for every type of each kind. Calls
+// that must not compile are in wrong_calls.cpp.
 
 #include "CallTextsCalls.h"
 
@@ -48,7 +48,7 @@ struct Name : std::string {
 
 enum Level { low = 1, high = 2 };
 
-// Beyond the 32 bits that a `long` of an argument has.
+// Beyond the 32 bits of a `long` argument.
 constexpr long long large = 5000000000;
 
 TEST_F(TypedCallTest, TakesNumbers) {
@@ -101,7 +101,7 @@ TEST_F(TypedCallTest, TakesTexts) {
     check(rows);
 }
 
-TEST_F(TypedCallTest, TakesWhatStreamsWhereItIsOnlyShown) {
+TEST_F(TypedCallTest, AcceptsStreamableValuesForAPlainPlaceholder) {
     const Row rows[] = {
         {__LINE__, CallTexts::MSG_ANY("Büro"), "Büro"},
         {__LINE__, CallTexts::MSG_ANY(Folder()), "Büro"},
@@ -115,7 +115,7 @@ TEST_F(TypedCallTest, TakesWhatStreamsWhereItIsOnlyShown) {
     check(rows);
 }
 
-TEST_F(TypedCallTest, IsTheStreamWrittenByHand) {
+TEST_F(TypedCallTest, EqualsTheStreamWrittenByHand) {
     const std::string folder = "Büro";
     const std::string text = (MessageFormatStream(MSG_COPIED) << 7 << folder).toString();
     const auto call = CallTexts::MSG_COPIED(7, folder);

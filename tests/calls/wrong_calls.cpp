@@ -1,5 +1,5 @@
-// Calls that do not compile. Each has the one error that compilers report for it before it, without
-// the namespace.
+// Calls that don't compile. The comment before each is the one error that compilers report for it,
+// without the namespace.
 
 #include "CallTextsCalls.h"
 
@@ -75,7 +75,7 @@ struct Unknown {};
     // error: MSG_NUMBER_AND_TIME: argument 0 must be a number of seconds
     CallTexts::MSG_NUMBER_AND_TIME(std::chrono::system_clock::time_point());
 
-    // What is only shown.
+    // Arguments of plain placeholders.
     // error: MSG_ANY: argument 0 (shown) must be a number or a text
     CallTexts::MSG_ANY(nullptr);
     // error: MSG_ANY: argument 0 (shown) must be a number or a text

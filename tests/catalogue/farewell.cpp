@@ -1,4 +1,5 @@
-// A static object renders by identifier when it is destroyed, though it is older than the message library.
+// A static object renders by identifier when it is destroyed, though it is older than the message
+// library.
 
 #include "ProgramTexts.h"
 #include "msglib/MessageFormatStream.h"

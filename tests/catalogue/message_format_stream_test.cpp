@@ -26,7 +26,7 @@ TEST(MessageFormatStream, KeepsTheTypeOfEachArgument) {
     EXPECT_THROW((Stream("{0,number}") << "7").toString(), std::runtime_error);
 }
 
-TEST(MessageFormatStream, LongBeyond32BitsIsRefusedWithoutATrace) {
+TEST(MessageFormatStream, LongBeyond32BitsThrowsAndChangesNothing) {
     if (sizeof(long) == 4) {
         GTEST_SKIP() << "long has no values beyond 32 bits";
     }
@@ -55,7 +55,7 @@ TEST(MessageFormatStream, JoinsMessages) {
     EXPECT_EQ(itself.toString(), "xxxxx");
 }
 
-TEST(MessageFormatStream, CopiesAreDeepAndMovesTakeTheRecord) {
+TEST(MessageFormatStream, CopiesAreDeepAndMovesTakeTheText) {
     Stream stream("{0}");
     EXPECT_EQ((stream << "a").toString(), "a");
     Stream copy(stream);
@@ -89,7 +89,7 @@ TEST(MessageFormatStream, MessageIdIsThatOfTheCurrentMessage) {
     EXPECT_THROW(Stream(nothing).toString(), std::runtime_error);
 }
 
-TEST(MessageFormatStream, FailuresByPatternLeaveTheStreamAsItWas) {
+TEST(MessageFormatStream, FailuresByPatternLeaveTheStreamUnchanged) {
     const Stream stream("a");
     EXPECT_EQ(stream.toString(), "a");
     stream << Stream("{1}") << "x";

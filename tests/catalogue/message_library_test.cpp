@@ -1,4 +1,4 @@
-// The message tables are fakes here: every failure of theirs can be had.
+// The message tables are replaced by a fake, which can provoke every failure.
 
 #include "message/Outcome.h"
 #include "msglib/MessageLibrary.h"
@@ -16,33 +16,34 @@
 namespace zem::msglib {
 namespace {
 
-/// Stands in for the platform's message tables.
+/// Replaces the platform's message tables.
 ///
-/// The object made last is in force. Its modules are 64 KiB of addresses each, all with the same
-/// ASCII texts. At its end it tells the test of buffers that were not released exactly once.
+/// The object created last is active. Its modules are 64 KiB of addresses each, all with the same
+/// ASCII texts. The destructor checks that every buffer was released exactly once.
 struct FakeMessages {
     explicit FakeMessages(std::map<std::uint32_t, std::string> asciiTexts)
         : texts(std::move(asciiTexts)) {
-        inForce = this;
+        active = this;
     }
     ~FakeMessages() {
-        EXPECT_TRUE(held.empty() && badReleases == 0) << "a buffer was not released exactly once";
+        EXPECT_EQ(held.size(), 0U) << "buffers were not released";
+        EXPECT_EQ(badReleases, 0) << "buffers were released twice";
     }
     FakeMessages(const FakeMessages&) = delete;
     FakeMessages& operator=(const FakeMessages&) = delete;
 
     std::map<std::uint32_t, std::string> texts;
     bool failsConversion = false;
-    bool allocatesOnFailure = false; ///< a missing message leaves a buffer all the same
+    bool allocatesOnFailure = false; ///< a missing message allocates a buffer too
     std::size_t queryResult = sizeof(platform::MEMORY_BASIC_INFORMATION);
     std::uint32_t memoryType = platform::MEM_IMAGE;
 
     std::string lookUps; ///< flags, module, identifier and language of each, in hexadecimal
-    int buffers = 0;     ///< handed out so far
+    int buffers = 0;     ///< allocated so far
     int badReleases = 0;
     std::set<void*> held;
 
-    static inline FakeMessages* inForce = nullptr;
+    static inline FakeMessages* active = nullptr;
 };
 
 } // namespace
@@ -53,26 +54,27 @@ std::size_t VirtualQuery(const void* address, MEMORY_BASIC_INFORMATION* informat
                          std::size_t) noexcept {
     const auto module = reinterpret_cast<std::uintptr_t>(address) & ~std::uintptr_t{0xFFFF};
     information->AllocationBase = reinterpret_cast<void*>(module);
-    information->Type = FakeMessages::inForce->memoryType;
-    return FakeMessages::inForce->queryResult;
+    information->Type = FakeMessages::active->memoryType;
+    return FakeMessages::active->queryResult;
 }
 
 std::uint32_t FormatMessageW(std::uint32_t flags, HMODULE module, std::uint32_t messageId,
                              std::uint32_t languageId, char16_t* buffer, std::uint32_t size,
                              void* arguments) noexcept {
-    EXPECT_TRUE(size == 0 && arguments == nullptr);
+    EXPECT_EQ(size, 0U);
+    EXPECT_EQ(arguments, nullptr);
     std::ostringstream lookUp;
     lookUp.imbue(std::locale::classic());
     lookUp << std::hex << flags << ' ' << module << ' ' << messageId << ' ' << languageId << ';';
-    FakeMessages::inForce->lookUps += lookUp.str();
-    const std::string text = FakeMessages::inForce->texts[messageId];
-    if (text.empty() && !FakeMessages::inForce->allocatesOnFailure) {
+    FakeMessages::active->lookUps += lookUp.str();
+    const std::string text = FakeMessages::active->texts[messageId];
+    if (text.empty() && !FakeMessages::active->allocatesOnFailure) {
         return 0;
     }
     char16_t* const units = std::make_unique<char16_t[]>(text.size() + 1).release();
     std::copy(text.begin(), text.end(), units);
-    FakeMessages::inForce->held.insert(units);
-    ++FakeMessages::inForce->buffers;
+    FakeMessages::active->held.insert(units);
+    ++FakeMessages::active->buffers;
     *reinterpret_cast<char16_t**>(buffer) = units;
     return static_cast<std::uint32_t>(text.size());
 }
@@ -80,9 +82,12 @@ std::uint32_t FormatMessageW(std::uint32_t flags, HMODULE module, std::uint32_t 
 int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t flags, const char16_t* text,
                         int count, char* output, int size, const char* defaultCharacter,
                         bool* usedDefaultCharacter) noexcept {
-    EXPECT_TRUE(codePage == CP_UTF8 && flags == 0 && size >= count);
-    EXPECT_TRUE(defaultCharacter == nullptr && usedDefaultCharacter == nullptr);
-    if (FakeMessages::inForce->failsConversion) {
+    EXPECT_EQ(codePage, CP_UTF8);
+    EXPECT_EQ(flags, 0U);
+    EXPECT_GE(size, count);
+    EXPECT_EQ(defaultCharacter, nullptr);
+    EXPECT_EQ(usedDefaultCharacter, nullptr);
+    if (FakeMessages::active->failsConversion) {
         return 0;
     }
     std::transform(text, text + count, output,
@@ -91,7 +96,7 @@ int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t flags, const char1
 }
 
 void LocalFree(void* memory) noexcept {
-    FakeMessages::inForce->badReleases += FakeMessages::inForce->held.erase(memory) == 1 ? 0 : 1;
+    FakeMessages::active->badReleases += FakeMessages::active->held.erase(memory) == 1 ? 0 : 1;
     delete[] static_cast<char16_t*>(memory);
 }
 
@@ -122,7 +127,7 @@ TEST(MessageLibrary, FacilityIsElevenBitsOfTheIdentifier) {
         SCOPED_TRACE(row.line);
         const FakeMessages messages({{row.messageId, "text"}});
         library.registerFacility(row.facility, addressOf(0x7A1234));
-        EXPECT_EQ(outcomeAtOnce(row.messageId, {}), row.found ? "text" : "!Invalid message ID");
+        EXPECT_EQ(directOutcome(row.messageId, {}), row.found ? "text" : "!Invalid message ID");
         std::ostringstream lookUp;
         lookUp.imbue(std::locale::classic());
         lookUp << "b00 0x7a0000 " << std::hex << row.messageId << " 409;";
@@ -130,12 +135,12 @@ TEST(MessageLibrary, FacilityIsElevenBitsOfTheIdentifier) {
     }
 }
 
-TEST(MessageLibrary, LastGoodRegistrationWins) {
+TEST(MessageLibrary, LastValidRegistrationCounts) {
     MessageLibrary& library = MessageLibrary::instance();
     FakeMessages messages({{0x100001, "text"}});
     library.registerFacility(0x10, addressOf(0x111111));
     library.registerFacility(0x10, addressOf(0x22FFFF));
-    EXPECT_EQ(outcomeAtOnce(0x100001U, {}), "text");
+    EXPECT_EQ(directOutcome(0x100001U, {}), "text");
     EXPECT_EQ(messages.lookUps, "b00 0x220000 100001 409;");
 
     messages.memoryType = 0x20000; // private memory
@@ -143,7 +148,7 @@ TEST(MessageLibrary, LastGoodRegistrationWins) {
     messages.memoryType = platform::MEM_IMAGE;
     messages.queryResult = 0;
     EXPECT_THROW(library.registerFacility(0x10, addressOf(0x440000)), std::invalid_argument);
-    EXPECT_EQ(outcomeAtOnce(0x100001U, {}), "text");
+    EXPECT_EQ(directOutcome(0x100001U, {}), "text");
 }
 
 TEST(MessageLibrary, EveryFailureIsTextByIdentifierAndThrownByPattern) {
@@ -162,8 +167,8 @@ TEST(MessageLibrary, EveryFailureIsTextByIdentifierAndThrownByPattern) {
         SCOPED_TRACE(row.line);
         const FakeMessages messages({{0x120001, "lost " + row.pattern}});
         MessageLibrary::instance().registerFacility(0x12, &messages);
-        EXPECT_EQ(outcomeAtOnce(0x120001U, args), row.words);
-        EXPECT_EQ(outcomeAtOnce(row.pattern, args), "!" + row.words);
+        EXPECT_EQ(directOutcome(0x120001U, args), row.words);
+        EXPECT_EQ(directOutcome(row.pattern, args), "!" + row.words);
     }
 }
 
@@ -193,7 +198,7 @@ TEST(MessageLibrary, EveryBufferIsReleasedOnceWhateverFails) {
         messages.failsConversion = row.failsConversion;
         messages.allocatesOnFailure = row.allocatesOnFailure;
         MessageLibrary::instance().registerFacility(0x13, &messages);
-        EXPECT_EQ(outcomeAtOnce(0x130001U, {row.argument}), row.outcome);
+        EXPECT_EQ(directOutcome(0x130001U, {row.argument}), row.outcome);
         EXPECT_EQ(messages.buffers, row.buffers);
     }
 }
@@ -205,15 +210,15 @@ TEST(MessageLibrary, LineEndsOfTableTextsBecomeLf) {
     } const rows[] = {
         {__LINE__, "\r\na\rb\nc\r\r\nd\n\r", "\na\rb\nc\r\nd\n\r"},
         {__LINE__, "%1 %n!s! %% {0}", "%1 %n!s! %% x\r\n"},
-        {__LINE__, "'\r\n'", "\n"}, // one byte by the time that it is quoted
+        {__LINE__, "'\r\n'", "\n"}, // line ends are replaced before quoting is resolved
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
         const FakeMessages messages({{0x140001, row.text}});
         MessageLibrary::instance().registerFacility(0x14, &messages);
-        EXPECT_EQ(outcomeAtOnce(0x140001U, {"x\r\n"s}), row.outcome);
+        EXPECT_EQ(directOutcome(0x140001U, {"x\r\n"s}), row.outcome);
     }
-    EXPECT_EQ(outcomeAtOnce("a\r\nb"s, {}), "a\r\nb");
+    EXPECT_EQ(directOutcome("a\r\nb"s, {}), "a\r\nb");
 }
 
 } // namespace

@@ -12,7 +12,7 @@ extern "C" BOOST_SYMBOL_EXPORT unsigned int registerModule() {
     return MSG_OF_MODULE;
 }
 
-/// Renders that one with its argument, for a program that doesn't know the library.
+/// Renders that message with its argument, for a program that isn't linked with the library.
 extern "C" BOOST_SYMBOL_EXPORT void renderMessage(int argument, std::string& text) {
     text = (zem::msglib::MessageFormatStream(MSG_OF_MODULE) << argument).toString();
 }
@@ -32,12 +32,13 @@ Farewell farewell;
 
 } // namespace
 
-/// Has the message rendered into `text` when the module is unloaded, by an object that is older than the message library.
+/// Renders the message into `text` when the module is unloaded, from the destructor of an object
+/// that is older than the message library.
 extern "C" BOOST_SYMBOL_EXPORT void renderAtUnload(std::string& text) {
     farewell.text = &text;
 }
 
-/// Makes `argument` an angle, of the type that the module knows under this name.
+/// Stores an angle in `argument`, with this module's own type identity.
 extern "C" BOOST_SYMBOL_EXPORT void holdAngle(double radians, boost::any& argument) {
     argument = zem::geom::Angle(radians);
 }

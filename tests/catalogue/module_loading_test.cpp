@@ -10,7 +10,7 @@
 
 namespace {
 
-// This program isn't linked with the library: it comes and goes with a plug-in that is.
+// This program isn't linked with the library. A plug-in is, and loads and unloads it.
 std::size_t loadedModules() {
     std::size_t count = 0;
     dl_iterate_phdr(
@@ -34,7 +34,7 @@ std::string renderBy(const char* path) {
     return text + last + std::to_string(modules);
 }
 
-// `modules` come with the plug-in of `path` each time, and have to go with it.
+// Loads and unloads the plug-in many times. `modules` must be loaded and unloaded with it.
 void expectNothingLeft(const char* path, std::size_t modules) {
     constexpr std::size_t rounds = 1000;
     const std::size_t others = loadedModules();
@@ -50,7 +50,7 @@ void expectNothingLeft(const char* path, std::size_t modules) {
     EXPECT_LT(mallinfo2().uordblks, held + rounds) << "bytes are lost in each round";
 }
 
-TEST(ModuleLoading, PlugInBringsTheLibraryAndTakesItAlong) {
+TEST(ModuleLoading, PlugInLoadsAndUnloadsTheLibrary) {
     expectNothingLeft(PLUG_IN, 2);
 }
 
@@ -59,7 +59,7 @@ TEST(ModuleLoading, PlugInLeavesTheLibraryLoaded) {
     expectNothingLeft(PLUG_IN, 1);
 }
 
-TEST(ModuleLoading, PlugInHasALibraryOfItsOwn) {
+TEST(ModuleLoading, PlugInContainsItsOwnLibrary) {
     expectNothingLeft(SELF_CONTAINED_PLUG_IN, 1);
 }
 

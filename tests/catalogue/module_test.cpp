@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <typeinfo>
 
-/// Those of the shared library.
+/// The functions of the shared library.
 extern "C" BOOST_SYMBOL_IMPORT unsigned int registerModule();
 extern "C" BOOST_SYMBOL_IMPORT void holdAngle(double radians, boost::any& argument);
 
@@ -20,8 +20,8 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(Modules, ProgramCarriesItsTexts) {
-    EXPECT_EQ(outcomeAtOnce(0x01AB0001U, {}), "!Invalid message ID");
+TEST(Modules, ProgramHasItsTexts) {
+    EXPECT_EQ(directOutcome(0x01AB0001U, {}), "!Invalid message ID");
     registerProgramTexts();
     registerMemoryTexts();
     struct {
@@ -44,30 +44,30 @@ TEST(Modules, ProgramCarriesItsTexts) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
         const bool differs = !row.underWine.empty() && runsUnderWine();
-        EXPECT_EQ(outcomeAtOnce(row.messageId, {row.argument}), differs ? row.underWine : row.text);
+        EXPECT_EQ(directOutcome(row.messageId, {row.argument}), differs ? row.underWine : row.text);
     }
 }
 
-TEST(Modules, SharedLibraryAndPlugInCarryTheirs) {
+TEST(Modules, SharedLibraryAndPlugInHaveTheirTexts) {
     registerProgramTexts();
     const unsigned int ofSharedLibrary = registerModule();
     const boost::dll::shared_library plugIn(PLUG_IN);
     auto& registerPlugIn = plugIn.get<unsigned int()>("registerModule");
     const unsigned int ofPlugIn = registerPlugIn();
-    EXPECT_EQ(outcomeAtOnce(ofSharedLibrary, {1}), "Shared 1\n");
-    EXPECT_EQ(outcomeAtOnce(ofPlugIn, {1}), "Plug-in 1\n");
-    EXPECT_EQ(outcomeAtOnce(MSG_VALUE, {1}), "Value 1\n");
+    EXPECT_EQ(directOutcome(ofSharedLibrary, {1}), "Shared 1\n");
+    EXPECT_EQ(directOutcome(ofPlugIn, {1}), "Plug-in 1\n");
+    EXPECT_EQ(directOutcome(MSG_VALUE, {1}), "Value 1\n");
 
-    // The last registration of a facility decides, whatever module it names.
+    // The last registration of a facility counts, whatever module it is for.
     auto& library = MessageLibrary::instance();
     library.registerFacility(ofPlugIn >> 16 & 0x7FF, &MSG_VALUE);
-    EXPECT_EQ(outcomeAtOnce(ofPlugIn, {1}), "Invalid message ID");
+    EXPECT_EQ(directOutcome(ofPlugIn, {1}), "Invalid message ID");
     library.registerFacility(ofPlugIn >> 16 & 0x7FF, reinterpret_cast<void*>(&registerPlugIn));
     EXPECT_THROW(library.registerFacility(ofPlugIn >> 16 & 0x7FF, nullptr), std::invalid_argument);
-    EXPECT_EQ(outcomeAtOnce(ofPlugIn, {1}), "Plug-in 1\n");
+    EXPECT_EQ(directOutcome(ofPlugIn, {1}), "Plug-in 1\n");
 }
 
-// The modules hide what they don't export, so each has a type identity of its own for an angle.
+// The modules hide the symbols that they don't export, so each has its own type identity of angles.
 TEST(Modules, AnglesOfAllModulesAreAngles) {
     const boost::dll::shared_library plugIn(PLUG_IN);
     boost::any ofSharedLibrary;

@@ -11,7 +11,8 @@ namespace {
 
 constexpr int threadCount = 8;
 
-/// Runs `work` with the numbers from 0 in threads that begin together, and returns their results.
+/// Calls `work` with the numbers from 0 on, each in a thread; the threads begin together. Returns
+/// the results.
 template <class Work>
 auto resultsOf(Work work) {
     std::promise<void> start;
@@ -33,15 +34,15 @@ auto resultsOf(Work work) {
     return results;
 }
 
-// Stands first: the others use the library already.
-TEST(Threads, FirstInstanceIsOneForAll) {
+// Must be the first test, since the others use the library.
+TEST(Threads, ConcurrentFirstCallsReturnOneInstance) {
     for (const MessageLibrary* library :
          resultsOf([](int) { return &MessageLibrary::instance(); })) {
         EXPECT_EQ(library, &MessageLibrary::instance());
     }
 }
 
-TEST(Threads, RenderAtOnce) {
+TEST(Threads, RenderConcurrently) {
     constexpr int rounds = 500;
     const std::string pattern =
         "{0} {0,number,#,##0.0} {0,number,currency} {1,date,long} {1,time} {0,choice,0#a|3#b{0}}";

@@ -45,7 +45,7 @@ TEST(DateFactory, FollowsTheLocaleValues) {
     EXPECT_EQ(textOf(*time, boost::any(60)) + outcome(" {0,time}", {60}), "00.01 00.01");
 }
 
-TEST(DateFactory, SetLocaleReadsTheValuesAnewAndLeavesCopiesAlone) {
+TEST(DateFactory, SetLocaleReadsTheValuesAgainAndLeavesCopiesUnchanged) {
     const FakeLocale locale({{LOCALE_SSHORTDATE, "yyyy"}});
     const MessageFormat format("{0,date,short}{0,foo}{0,number,0.0} {0,number}");
     MessageFormat copy(format);

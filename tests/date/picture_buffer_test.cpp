@@ -1,4 +1,4 @@
-// The pictures of date and time are fakes here, which answer as a test tells them.
+// The picture operations are replaced by fakes, which return the results that a test sets.
 
 #include "message/Outcome.h"
 #include "msglib/SimpleDateFormat.h"
@@ -14,7 +14,7 @@ namespace {
 struct Answer {
     int result;             ///< what the operation returns
     std::string bytes;      ///< what it writes
-    bool isTooShort = true; ///< which reason a 0 leaves behind
+    bool isTooShort = true; ///< whether a failure is for lack of space
 };
 
 std::deque<Answer> answers;
@@ -54,7 +54,7 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(PictureBuffer, GrowsAsThePlatformAsksAndServesEveryRun) {
+TEST(PictureBuffer, GrowsAsThePlatformRequiresAndIsReused) {
     const std::string full(63, 'x');
     const std::string m(99, 'm');
     const std::string n(199, 'n');
@@ -83,7 +83,7 @@ TEST(PictureBuffer, GrowsAsThePlatformAsksAndServesEveryRun) {
          {no, needs, large, no, more, larger},
          "DM:64 DM:0 DM:100 Dd:100 Dd:0 Dd:200 ",
          m + n},
-        // refused runs add nothing, and the others stand
+        // a run that fails adds nothing, and the others are rendered
         {__LINE__, "h-d", {never, ok}, "Th:64 Dd:64 ", "-k"},
         {__LINE__, "M-d", {no, needs, never, ok}, "DM:64 DM:0 DM:100 Dd:100 ", "-k"},
         {__LINE__, "M-d", {no, needs, no, ok}, "DM:64 DM:0 DM:100 Dd:100 ", "-k"},
@@ -105,7 +105,7 @@ TEST(PictureBuffer, GrowsAsThePlatformAsksAndServesEveryRun) {
     }
 }
 
-TEST(PictureBuffer, TimesWithoutFieldsAskForNoPicture) {
+TEST(PictureBuffer, TimesWithoutFieldsCallNoOperation) {
     calls.clear();
     EXPECT_EQ(textOf(SimpleDateFormat("y-h", std::locale()), boost::any(INT64_MAX + 0LL)), "-");
     EXPECT_EQ(calls, "");

@@ -1,6 +1,5 @@
-// Writes the texts of generated numbers to a file: a line each, with the pattern and the bits of the
-// number. The same program writes the same bytes on every system; script/compare-digits holds it to
-// that.
+// Writes the texts of generated numbers to a file, one a line, with the pattern and the bits of the
+// number. The file must be the same on every system; script/compare-digits compares them.
 
 #include <msglib/DecimalFormat.h>
 #include <msglib/MessageFormat.h>
@@ -23,7 +22,7 @@ using zem::msglib::MessageFormat;
 
 constexpr int lines = 300'000;
 
-// The generator splitmix64, in integers alone.
+// The generator splitmix64, which only uses integers.
 class Random {
 public:
     std::uint64_t bits() {
@@ -33,7 +32,7 @@ public:
         z = (z ^ (z >> 27U)) * 0x94D049BB133111EB;
         return z ^ (z >> 31U);
     }
-    // From `first` to `last`.
+    // Returns a number from `first` to `last`.
     int number(int first, int last) {
         return first + static_cast<int>(bits() % static_cast<unsigned int>(last - first + 1));
     }
@@ -77,7 +76,7 @@ double magnitude(Random& random) {
     case 6: return (small + 0.5) / random.number(1, 1000);
     case 7: return small / 1024.0; // many ties
     case 8: return powerOfTen(random.number(-323, 308));
-    default: { // beside a power of ten, and where its decimal exponent begins
+    default: { // next to a power of ten, and where its decimal exponent begins
         const int farthest = random.number(0, 1) == 0 ? 2 : 1600;
         const auto distance = static_cast<std::uint64_t>(random.number(-farthest, farthest));
         return doubleOf(bitsOf(powerOfTen(random.number(-300, 308))) + distance);
@@ -134,7 +133,7 @@ class Formats {
 public:
     Formats() {
         patterns_.assign(std::begin(decimalPatterns), std::end(decimalPatterns));
-        // As many digits as a double can take.
+        // As many digits as a double can have.
         patterns_.push_back("0." + std::string(340, '#'));
         patterns_.push_back("0." + std::string(340, '#') + "E0");
         patterns_.push_back(std::string(320, '0') + ".0E0");

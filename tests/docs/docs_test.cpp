@@ -1,4 +1,4 @@
-// Holds the documentation true: every row of its marked tables is what the library does.
+// Checks every row of the marked tables in the documentation against the library.
 
 #include "support/CheckedTables.h"
 #include "support/Rendering.h"
@@ -78,7 +78,7 @@ std::string render(const std::string& kind, const std::string& pattern, const Ar
     return out;
 }
 
-// Rows of the operations that Wine has otherwise than the pages tell: pattern and arguments.
+// Rows, by pattern and arguments, for which operations of Wine differ from the documentation.
 const std::set<std::pair<std::string, std::string>> differentUnderWine = {
     {"`y yy yyyy g`", "`0`"},
     {"`yyyy-MM-dd`", "`910670515200`"},
@@ -97,7 +97,7 @@ void checkRow(const std::string& kind, const std::vector<std::string>& cells) {
     EXPECT_EQ(text + failure, bytesOf(cells[2])) << cells[0];
 }
 
-/// Checks the marked tables of one page and returns how many rows they have.
+/// Checks the marked tables of one page and returns their number of rows.
 std::size_t checkPage(const std::string& path) {
     const std::vector<CheckedRow> rows = checkedRowsOf(path);
     for (const CheckedRow& row : rows) {
@@ -107,7 +107,7 @@ std::size_t checkPage(const std::string& path) {
     return rows.size();
 }
 
-TEST(Docs, TablesAreTrue) {
+TEST(Docs, CheckedTablesAreTrue) {
     const std::pair<const char*, std::size_t> fewestRows[] = {
         {"/message-patterns.md", 60}, {"/decimal-patterns.md", 60}, {"/choice-patterns.md", 25},
         {"/date-patterns.md", 30},    {"/failures.md", 14},

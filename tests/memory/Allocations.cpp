@@ -5,17 +5,17 @@
 
 namespace {
 
-std::size_t taken = 0;
+std::size_t allocated = 0;
 std::size_t released = 0;
 std::size_t bytes = 0;
-std::size_t untilFailure = 0; // 0: none fails
+std::size_t untilFailure = 0; // 0 if none fails
 
 } // namespace
 
 namespace zem::msglib {
 
 std::size_t allocations() {
-    return taken;
+    return allocated;
 }
 
 std::size_t allocatedBytes() {
@@ -23,7 +23,7 @@ std::size_t allocatedBytes() {
 }
 
 std::size_t liveAllocations() {
-    return taken - released;
+    return allocated - released;
 }
 
 FailingAllocation::FailingAllocation(std::size_t nth) {
@@ -48,7 +48,7 @@ void* operator new(std::size_t size) {
     if (block == nullptr) {
         throw std::bad_alloc();
     }
-    ++taken;
+    ++allocated;
     bytes += size;
     return block;
 }

@@ -4,25 +4,25 @@
 
 namespace zem::msglib {
 
-/// Returns how many blocks the program has taken from the heap so far.
+/// Returns the number of allocations so far.
 std::size_t allocations();
 
-/// Returns how many bytes those blocks had together.
+/// Returns the total number of bytes of these allocations.
 std::size_t allocatedBytes();
 
-/// Returns how many blocks it holds.
+/// Returns the number of allocations that haven't been released.
 std::size_t liveAllocations();
 
-/// Makes one allocation fail with `std::bad_alloc`. There is one such object at a time.
+/// Makes one allocation fail with `std::bad_alloc`. At most one object exists at a time.
 class FailingAllocation {
 public:
-    /// @param nth  which one, counted from 1 from now on
+    /// @param nth  the number of the allocation, counted from 1 from now on
     explicit FailingAllocation(std::size_t nth);
     ~FailingAllocation();
     FailingAllocation(const FailingAllocation&) = delete;
     FailingAllocation& operator=(const FailingAllocation&) = delete;
 
-    /// Tells whether it has come to that allocation.
+    /// Returns whether that allocation was reached.
     bool hasFailed() const;
 };
 

@@ -17,9 +17,9 @@ struct Row {
     boost::any argument;
 };
 
-const std::string longText = "a text that has no room inside of a string object";
+const std::string longText = "a text that is too long for the string object itself";
 
-TEST(AllocationCount, KeptMessagesNeedNone) {
+TEST(AllocationCount, CompiledMessagesAllocateNothing) {
     const Row rows[] = {
         {__LINE__, "no placeholder, but a text of some length", {}},
         {__LINE__, "{0} of '{'{0}'}'", longText},
@@ -43,7 +43,7 @@ TEST(AllocationCount, KeptMessagesNeedNone) {
     }
 }
 
-TEST(AllocationCount, MessagesAtOnceNeedNoneBesideTheirText) {
+TEST(AllocationCount, DirectRenderingAllocatesOnlyTheText) {
     const Row rows[] = {
         {__LINE__, "no placeholder, but a text of some length", {}},
         {__LINE__, "{0} and '{'{0}'}', {0,unknown}, it''s {0}", "text"s},
@@ -51,7 +51,7 @@ TEST(AllocationCount, MessagesAtOnceNeedNoneBesideTheirText) {
         {__LINE__, "{0} or {0,number,percent} in a sentence", 0.25},
         {__LINE__, "{0} in a sentence", -1234},
         {__LINE__, "{0,date}, {0,date,short}, {0,date,medium}, {0,time}", 1000000000},
-        {__LINE__, "{0,date,full} with some more words behind it", 1000000000},
+        {__LINE__, "{0,date,full} with some more words after it", 1000000000},
         {__LINE__, "{0,date,yyyy-MM-dd 'at' HH:mm} and {0,number,#,##0.0##;(#)}", 1000000000},
         {__LINE__, "{0,choice,0#no file|1#one file|1<{0,number,integer} files} copied", 1234},
     };
@@ -64,7 +64,7 @@ TEST(AllocationCount, MessagesAtOnceNeedNoneBesideTheirText) {
     }
 }
 
-TEST(AllocationCount, JoiningCostsWhatTheTextNeeds) {
+TEST(AllocationCount, JoiningAllocatesInProportionToTheText) {
     constexpr std::size_t count = 1000;
     const std::string piece(1000, 'x');
     const MessageFormatStream other(piece.c_str());

@@ -18,9 +18,9 @@ namespace {
 
 using namespace std::string_literals;
 
-// Acts on a new object with the first allocation failing, with the second, and so on until none
-// fails. The failure has to reach the caller, nothing may leak, and the next try has to succeed.
-// `check` gets the object behind each try, and whether that one succeeded.
+// Calls `act` on a new object while the first allocation fails, then the second, and so on until
+// none fails. The failure must reach the caller, no memory may leak, and the next attempt must
+// succeed. `check` is called after each attempt, with the object and whether the attempt succeeded.
 template <class Make, class Act, class Check>
 void failEachAllocation(const Make& make, const Act& act, const Check& check) {
     bool failed = true;
@@ -39,19 +39,19 @@ void failEachAllocation(const Make& make, const Act& act, const Check& check) {
                 }
                 failed = failing.hasFailed();
             }
-            EXPECT_EQ(thrown, failed) << "the failure is kept from the caller";
-            EXPECT_TRUE(failed || nth > 1) << "there is no allocation to fail";
+            EXPECT_EQ(thrown, failed) << "the failure does not reach the caller";
+            EXPECT_TRUE(failed || nth > 1) << "there is no allocation";
             if (thrown) {
                 check(object, false);
                 act(object);
             }
             check(object, true);
         }
-        ASSERT_EQ(liveAllocations(), live) << "a block is lost";
+        ASSERT_EQ(liveAllocations(), live) << "memory leaks";
     }
 }
 
-const std::string longText = "a text that has no room inside of a string object";
+const std::string longText = "a text that is too long for the string object itself";
 const std::list<boost::any> args = {longText, 3};
 const std::string keywordPattern =
     "Beyond the small texts: {0}, { 1 }, {1,number,currency} {1,choice,0#none|0.5#{1,number,00.0 "
@@ -74,7 +74,7 @@ std::string textOf(const DateFormat& format) {
     return format.format(boost::any(2), text);
 }
 
-// The words of a failure count as the text.
+// Returns the text, or the text of the failure.
 std::string textOf(const MessageFormatStream& stream) {
     try {
         return MessageFormatStream(stream).toString();
@@ -83,7 +83,7 @@ std::string textOf(const MessageFormatStream& stream) {
     }
 }
 
-TEST(MemoryFailure, ReachesTheCallerAndLosesNothing) {
+TEST(MemoryFailure, ReachesTheCallerWithoutLeaks) {
     registerMemoryTexts();
     const MessageLibrary& library = MessageLibrary::instance();
     const std::locale locale;
@@ -111,7 +111,7 @@ TEST(MemoryFailure, ReachesTheCallerAndLosesNothing) {
     }
 }
 
-// The documentation promises formatters no more than that they can still be used.
+// The documentation only promises that formatters stay usable.
 template <class Formatter>
 void failChanges(const Formatter& former, const Formatter& next, const std::string& nextPattern) {
     const std::string expected = textOf(next);
@@ -126,7 +126,7 @@ void failChanges(const Formatter& former, const Formatter& next, const std::stri
         make, [&](Formatter& formatter) { formatter = next; }, check);
 }
 
-TEST(MemoryFailure, FormattersCanStillBeUsed) {
+TEST(MemoryFailure, FormattersStayUsable) {
     const std::locale locale;
     const std::string choices = "0#" + longText + "|1.5#" + longText;
     const std::string decimal = longText + "#,##0.00" + longText + ";(#" + longText + ')';
@@ -134,7 +134,8 @@ TEST(MemoryFailure, FormattersCanStillBeUsed) {
     failChanges(ChoiceFormat("0#former"), ChoiceFormat(choices), choices);
     failChanges(DecimalFormat("0", {}), DecimalFormat(decimal, {}), decimal);
     failChanges(SimpleDateFormat("", locale), SimpleDateFormat(longText, locale), longText);
-    // But for decimal patterns, which are compiled in place, a new locale leaves texts alone.
+    // A new locale doesn't change the texts, except for decimal patterns, which are compiled in
+    // place.
     const std::string expected = textOf(MessageFormat(keywordPattern));
     failEachAllocation(
         [] { return MessageFormat(keywordPattern); },
@@ -142,7 +143,7 @@ TEST(MemoryFailure, FormattersCanStillBeUsed) {
         [&](const MessageFormat& message, bool) { EXPECT_EQ(textOf(message), expected); });
 }
 
-TEST(MemoryFailure, RenderingKeepsWhatIsAppended) {
+TEST(MemoryFailure, RenderingKeepsTheAppendedText) {
     const MessageFormat message(pattern);
     const std::string expected = "kept " + textOf(message);
     failEachAllocation([] { return std::string("kept "); },
@@ -154,7 +155,7 @@ TEST(MemoryFailure, RenderingKeepsWhatIsAppended) {
                        });
 }
 
-TEST(MemoryFailure, StreamsStayAsTheyWere) {
+TEST(MemoryFailure, StreamsAreUnchanged) {
     registerMemoryTexts();
     using Stream = MessageFormatStream;
     const Stream one = Stream("{0}, {1}") << "one";
@@ -189,7 +190,7 @@ TEST(MemoryFailure, StreamsStayAsTheyWere) {
     }
 }
 
-TEST(MemoryFailure, RegistrationsStayAsTheyWere) {
+TEST(MemoryFailure, RegistrationsAreUnchanged) {
     constexpr unsigned int facility = 0x121;
     MessageLibrary& library = MessageLibrary::instance();
     {

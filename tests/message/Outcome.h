@@ -24,23 +24,25 @@ inline const std::string notADate = "Invalid date argument type";
 inline const std::string choiceSyntax = "Syntax error in choice format.";
 inline const std::string longOutOfRange = "Value of type long is outside its 32-bit range";
 
-/// Renders at once by a pattern or an identifier: as `textOf`, or only "!" and the words.
+/// Renders by a pattern or an identifier without compiling first. Returns the text, or only "!" and
+/// the text of the failure.
 template <class Message>
-std::string outcomeAtOnce(const Message& message, const Arguments& args) {
+std::string directOutcome(const Message& message, const Arguments& args) {
     std::string text;
     const std::string failure =
         failureOf([&] { text = MessageLibrary::instance().formatMessage(message, args); }, "!");
     return text + failure;
 }
 
-/// Compiles and renders: as `textOf`, or "compile!" and the words if the pattern does not compile.
+/// Compiles and renders. Returns what `textOf` returns, or "compile!" and the text of the failure
+/// if the pattern doesn't compile. Checks that rendering directly has the same result.
 inline std::string outcome(const std::string& pattern, const Arguments& args) {
     std::string kept;
     const std::string failure =
         failureOf([&] { kept = textOf(MessageFormat(pattern), args); }, "compile!");
     kept += failure;
     EXPECT_EQ(kept.find('!') != std::string::npos ? kept.substr(kept.rfind('!')) : kept,
-              outcomeAtOnce(pattern, args))
+              directOutcome(pattern, args))
         << pattern;
     return kept;
 }

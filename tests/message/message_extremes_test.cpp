@@ -6,6 +6,8 @@
 
 #include <pthread.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <limits>
 
@@ -15,6 +17,21 @@ namespace {
 using namespace std::string_literals;
 
 constexpr int choiceLevels = 10'000;
+
+// Compares texts of megabytes: a failure shows their sizes and where they differ.
+testing::AssertionResult areEqual(const std::string& actual, const std::string& expected) {
+    if (actual == expected) {
+        return testing::AssertionSuccess();
+    }
+    const auto shorter = std::min(actual.size(), expected.size());
+    const auto end = actual.begin() + static_cast<std::ptrdiff_t>(shorter);
+    const auto at = std::mismatch(actual.begin(), end, expected.begin()).first - actual.begin();
+    const auto position = static_cast<std::size_t>(at);
+    return testing::AssertionFailure()
+           << actual.size() << " bytes instead of " << expected.size() << ", from " << position
+           << " on " << testing::PrintToString(actual.substr(position, 80)) << " instead of "
+           << testing::PrintToString(expected.substr(position, 80));
+}
 
 std::string nestedChoices(std::string_view innermost) {
     std::string pattern;
@@ -28,7 +45,7 @@ std::string nestedChoices(std::string_view innermost) {
     return pattern;
 }
 
-TEST(Extremes, NestedChoicesNeedNoDeepStack) {
+TEST(Extremes, NestedChoicesUseNoDeepStack) {
     pthread_attr_t attributes;
     ASSERT_EQ(pthread_attr_init(&attributes), 0);
     ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
@@ -44,9 +61,9 @@ TEST(Extremes, NestedChoicesNeedNoDeepStack) {
     EXPECT_EQ(text, "7" + std::string(choiceLevels / 100, '.'));
 }
 
-// Of the failures in nested messages, the first is that of the outermost message that does not
-// compile. What that message has appended before goes, and all that is outside of it stays.
-TEST(Extremes, NestedFailuresComeInTheOrderOfCompiling) {
+// The failure is that of the outermost message that doesn't compile. The text that this message has
+// appended is removed, and the text before it is kept.
+TEST(Extremes, NestedFailuresComeInCompilingOrder) {
     expectOutcomes({
         {__LINE__, "a{0,choice,0#b{0,choice,0#c{2}d}e}f", {0}, "abc!" + indexTooHigh},
         {__LINE__, "a{0,choice,0#b{0,choice,0#c{2}d{x}}e}f", {0}, "ab!" + illegalArgument},
@@ -63,17 +80,17 @@ TEST(Extremes, NestedFailuresComeInTheOrderOfCompiling) {
     });
 }
 
-// Cost beyond the linear one would run into the time that the test has.
-TEST(Extremes, DeepNestingCostsNoMoreThanItsLength) {
+// With more than linear time, the test would exceed its time limit.
+TEST(Extremes, DeepNestingTakesLinearTime) {
     const std::string dots(choiceLevels / 100, '.');
     const std::string text(std::size_t{4} << 20, 'x');
-    EXPECT_TRUE(outcome(nestedChoices(text), {0}) == text + dots);
-    EXPECT_TRUE(outcome(nestedChoices("") + text, {0}) == dots + text);
+    EXPECT_TRUE(areEqual(outcome(nestedChoices(text), {0}), text + dots));
+    EXPECT_TRUE(areEqual(outcome(nestedChoices("") + text, {0}), dots + text));
     EXPECT_EQ(outcome(nestedChoices("{1}"), {0}), "!" + indexTooHigh);
     EXPECT_EQ(outcome(nestedChoices("{1,number}"), {0, "x"s}), "!" + notANumber);
 }
 
-TEST(Extremes, ResultsHoldLittleMoreThanTheirText) {
+TEST(Extremes, ResultsWasteLittleMemory) {
     constexpr std::size_t constant = 1024;
     const Arguments texts(100'000, boost::any(""s));
     std::string placeholders;
@@ -111,7 +128,7 @@ std::string asDate(const std::string& pattern) {
     return textOf(SimpleDateFormat(pattern, std::locale()), boost::any(0));
 }
 
-// Any cost beyond the linear one would run into the time that the test has.
+// With more than linear time, the test would exceed its time limit.
 TEST(Extremes, RepeatedPartsGiveRepeatedTexts) {
     const auto asMessage = [](const std::string& pattern) { return outcome(pattern, {7, "s"s}); };
     const struct {
@@ -133,7 +150,8 @@ TEST(Extremes, RepeatedPartsGiveRepeatedTexts) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
         const std::size_t count = mebibyte / std::strlen(row.part);
-        EXPECT_TRUE(row.render(times(count, row.part)) == times(count, row.render(row.part)));
+        EXPECT_TRUE(
+            areEqual(row.render(times(count, row.part)), times(count, row.render(row.part))));
     }
 }
 
@@ -142,20 +160,22 @@ TEST(Extremes, LongPatterns) {
     const std::string zeros(mebibyte, '0');
     const std::string opening(100'000, '{');
     const std::string closing(100'000, '}');
-    if (!runsUnderWine()) { // which takes long runs for shorter ones
-        EXPECT_TRUE(asDate(std::string(mebibyte, 'd')) == "Thursday");
-        EXPECT_TRUE(asDate(std::string(mebibyte, 'g')) == "A.D.");
+    if (!runsUnderWine()) { // which renders long runs as shorter ones
+        EXPECT_TRUE(areEqual(asDate(std::string(mebibyte, 'd')), "Thursday"));
+        EXPECT_TRUE(areEqual(asDate(std::string(mebibyte, 'g')), "A.D."));
     }
-    EXPECT_TRUE(asDecimal(letters + "0.00" + letters) == letters + "7.25" + letters);
-    EXPECT_TRUE(asChoice(letters + "#" + times(mebibyte / 4, "'|' ")) == times(mebibyte / 4, "| "));
-    EXPECT_TRUE(asChoice("0#" + letters + "|9#" + letters) == letters);
-    EXPECT_TRUE(asChoice(times(mebibyte / 4, "0#a|") + "1#b") == "b");
-    EXPECT_TRUE(asChoice("0#" + opening + closing + "|8#b") == opening + closing);
-    EXPECT_TRUE(outcome(opening, {}) == "compile!" + illegalArgument);
-    EXPECT_TRUE(outcome("{0,date," + opening + closing + "}", {0}) == opening + closing);
-    EXPECT_TRUE(outcome("{" + letters + "}", {0}) == "compile!" + illegalArgument);
-    EXPECT_TRUE(outcome("{" + zeros + "}", {"a"s}) == "a");
-    EXPECT_TRUE(outcome(times(100'000, "{0}{2}{1}"), {"a"s, "b"s, "c"s}) == times(100'000, "acb"));
+    EXPECT_TRUE(areEqual(asDecimal(letters + "0.00" + letters), letters + "7.25" + letters));
+    EXPECT_TRUE(
+        areEqual(asChoice(letters + "#" + times(mebibyte / 4, "'|' ")), times(mebibyte / 4, "| ")));
+    EXPECT_TRUE(areEqual(asChoice("0#" + letters + "|9#" + letters), letters));
+    EXPECT_TRUE(areEqual(asChoice(times(mebibyte / 4, "0#a|") + "1#b"), "b"));
+    EXPECT_TRUE(areEqual(asChoice("0#" + opening + closing + "|8#b"), opening + closing));
+    EXPECT_TRUE(areEqual(outcome(opening, {}), "compile!" + illegalArgument));
+    EXPECT_TRUE(areEqual(outcome("{0,date," + opening + closing + "}", {0}), opening + closing));
+    EXPECT_TRUE(areEqual(outcome("{" + letters + "}", {0}), "compile!" + illegalArgument));
+    EXPECT_TRUE(areEqual(outcome("{" + zeros + "}", {"a"s}), "a"));
+    EXPECT_TRUE(
+        areEqual(outcome(times(100'000, "{0}{2}{1}"), {"a"s, "b"s, "c"s}), times(100'000, "acb")));
 }
 
 TEST(Extremes, MillionsOfDigits) {

@@ -33,9 +33,9 @@ TEST(MessagePattern, Placeholders) {
         // forms of the index
         {__LINE__, "{+1}{1 0}{\t\n1}{-0}{000000000000}", two, "bbbaa"},
         {__LINE__, "{0{1}}{1'}'}{0'''}", two, "aba"},
-        // types and styles that name no formatter
+        // types and styles without a formatter
         {__LINE__, "{0,}{0,,}{0,foo,bar}{0,x{y}z}", two, "aaaa"},
-        // what reaches the formatter of a segment
+        // the style as the formatter receives it
         {__LINE__, "{0,date,x{d}z}", {0}, "x{1}z"},
         {__LINE__, "{0,date,'}'d'{'}", {0}, "}1{"},
         // failures while rendering
@@ -46,7 +46,7 @@ TEST(MessagePattern, Placeholders) {
     });
 }
 
-// Texts are searched in blocks and words, for which bytes above "z" look much like braces.
+// Texts are searched in blocks of bytes; those above "z" differ from braces in few bits.
 TEST(MessagePattern, SyntaxAtAnyDistance) {
     for (const char byte : {'z', '~', '|', '\xC3'}) {
         for (std::size_t distance = 0; distance < 300; ++distance) {
@@ -79,7 +79,7 @@ TEST(MessagePattern, CompileFailures) {
     }
 }
 
-TEST(MessagePattern, FailedCompilationKeepsWhatWasRead) {
+TEST(MessagePattern, FailedCompilationKeepsTheCompiledParts) {
     struct {
         int line;
         const char* pattern;
@@ -194,7 +194,7 @@ TEST(TypedPlaceholder, ChosenTextIsAMessage) {
     });
 }
 
-TEST(MessageFormatObject, CopiesAndAssignmentsStandAlone) {
+TEST(MessageFormatObject, CopiesAndAssignmentsAreIndependent) {
     const Arguments args = {1234.5};
     MessageFormat format("a {0,number,#,##0.0} b");
     MessageFormat copy(format);
@@ -208,7 +208,7 @@ TEST(MessageFormatObject, CopiesAndAssignmentsStandAlone) {
     EXPECT_EQ(textOf(copy, args), "x");
 }
 
-TEST(MessageFormatObject, TakesItsListByPointerOnly) {
+TEST(MessageFormatObject, AcceptsItsListOnlyByPointer) {
     const MessageFormat format("a{0}");
     const Arguments args = {"x"s};
     Arguments changeable = args;
@@ -222,7 +222,7 @@ TEST(MessageFormatObject, TakesItsListByPointerOnly) {
     EXPECT_EQ(MessageFormat(format).format(boost::any(Pointer(&args))), "ax");
 }
 
-TEST(MessageFormatObject, GlobalLocaleReadsTheIndexAndIsKept) {
+TEST(MessageFormatObject, GlobalLocaleReadsTheIndexAndIsStored) {
     const std::locale grouping(std::locale::classic(), new CommaForms);
     const Arguments args = {"a"s, "b"s};
     const std::locale before = std::locale::global(grouping);

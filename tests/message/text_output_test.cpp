@@ -9,10 +9,10 @@
 namespace zem::msglib {
 namespace {
 
-constexpr std::size_t most = TextOutput::largestRoom;
+constexpr std::size_t most = TextOutput::bufferSize;
 
-// Every change is made to a string of its own, too.
-TEST(TextOutput, GathersWhatAStringWould) {
+// Applies every change to an ordinary string too.
+TEST(TextOutput, AgreesWithAString) {
     std::mt19937 random(20261123);
     const auto below = [&random](std::size_t end) { return random() % end; };
     const std::size_t sizes[] = {9, 40, most + 1, 3 * most};
@@ -32,26 +32,26 @@ TEST(TextOutput, GathersWhatAStringWould) {
                 expected += 'x';
                 break;
             case 1: {
-                const std::size_t room = std::min(size, most);
-                output.advanceTo(std::copy_n(piece.data(), room, output.room(most)));
-                expected += piece.substr(0, room);
+                const std::size_t count = std::min(size, most);
+                output.advanceTo(std::copy_n(piece.data(), count, output.reserve(most)));
+                expected += piece.substr(0, count);
                 break;
             }
             case 2: earlier = output.size(); break;
             case 3:
-                output.cutTo(earlier);
+                output.truncate(earlier);
                 expected.resize(earlier);
                 break;
             default: output.append(piece); expected += piece;
             }
             ASSERT_EQ(output.size(), expected.size());
         }
-        output.finish();
+        output.flush();
         ASSERT_EQ(text, expected);
     }
 }
 
-TEST(TextOutput, AppendsWhatCameBeforeAFailure) {
+TEST(TextOutput, AppendsTheBytesBeforeAFailure) {
     std::string text = "kept, ";
     const auto fail = [](TextOutput& output) {
         output.append("and more");

@@ -15,7 +15,7 @@ namespace {
 
 using Limits = std::numeric_limits<double>;
 
-// The choices for NaN and for numbers that rise.
+// Returns the choices for NaN and for ascending numbers.
 std::string choicesOf(const ChoiceFormat& format) {
     std::string choices = textOf(format, Limits::quiet_NaN());
     for (const double number : {-Limits::infinity(), -1.0, 0.0, Limits::denorm_min(), 1.0, 9.0,
@@ -68,13 +68,13 @@ TEST(ChoiceFormat, NeighboursOfDoubles) {
     EXPECT_TRUE(std::isnan(ChoiceFormat::nextDouble(NAN)));
 }
 
-TEST(Extraction, ReadsWhatStandsInFrontByTheGlobalLocale) {
+TEST(Extraction, ReadsTheLeadingNumberByTheGlobalLocale) {
     constexpr int none = -99;
     const struct {
         int line;
         bool commaForms;
         const char* text;
-        int whole; ///< none for what is no `int`
+        int whole; ///< `none` if the text isn't an `int`
         double real;
     } rows[] = {
         {__LINE__, false, "", none, 0.0},
@@ -99,7 +99,7 @@ TEST(Extraction, ReadsWhatStandsInFrontByTheGlobalLocale) {
     std::locale::global(former);
 }
 
-// Reads every number as 42.
+// A facet that reads every number as 42.
 struct Always42 : std::num_get<char> {
     iter_type do_get(iter_type, iter_type end, std::ios_base&, std::ios_base::iostate& state,
                      long& value) const override {
@@ -109,13 +109,13 @@ struct Always42 : std::num_get<char> {
     }
 };
 
-// Separates groups by a digit.
+// A facet whose group separator is a digit.
 struct DigitBetweenGroups : std::numpunct<char> {
     char do_thousands_sep() const override { return '2'; }
     std::string do_grouping() const override { return "\1"; }
 };
 
-// Takes a digit for white space.
+// A facet for which a digit is white space.
 struct BlankDigit : std::ctype<char> {
     BlankDigit() : std::ctype<char>(masks()) {}
     static const mask* masks() {
@@ -133,8 +133,8 @@ TEST(Extraction, PlainDigitsAreDecimalUnderEveryGlobalLocale) {
     const struct {
         int line;
         std::locale locale;
-        int signedNumber; ///< what the locale makes of "+123"
-        int plainNumber;  ///< what it makes of "123" in a stream
+        int signedNumber; ///< "+123" as the locale reads it
+        int plainNumber;  ///< "123" as a stream reads it
     } rows[] = {
         {__LINE__, std::locale(former, new Always42), 42, 42},
         {__LINE__, std::locale(former, new DigitBetweenGroups), 13, 13},
@@ -148,7 +148,8 @@ TEST(Extraction, PlainDigitsAreDecimalUnderEveryGlobalLocale) {
         EXPECT_EQ(streamed, row.plainNumber);
         int plain = 0;
         int withSign = 0;
-        EXPECT_TRUE(extractInt("123", plain) && extractInt("+123", withSign));
+        EXPECT_TRUE(extractInt("123", plain));
+        EXPECT_TRUE(extractInt("+123", withSign));
         EXPECT_EQ(plain, 123);
         EXPECT_EQ(withSign, row.signedNumber);
         EXPECT_EQ(extractDouble("123"), 123.0);

@@ -9,7 +9,7 @@
 namespace zem::msglib {
 namespace {
 
-TEST(DecimalPattern, FailsAndKeepsWhatWasCompiled) {
+TEST(DecimalPattern, FailureKeepsTheCompiledParts) {
     const PatternCase rows[] = {
         {__LINE__, "0;(0#", "digit mark (#) following zero-index; 1.0-0 | 0 | 1234568 | (1235"},
         {__LINE__, "#,#.#0", "zero mark following digit; 0.0-0, |  | 1,2,3,4,5,6,8 | -1,2,3,5"},
@@ -28,7 +28,7 @@ TEST(DecimalPattern, FailsAndKeepsWhatWasCompiled) {
     }
 }
 
-TEST(DecimalFormat, WritesNumbersAtTheirEdges) {
+TEST(DecimalFormat, FormatsEdgeCases) {
     const auto write = [](const char* pattern, auto number) {
         const DecimalFormatSymbols symbols;
         return textOf(DecimalFormat(pattern, symbols), number);
@@ -53,12 +53,12 @@ const Setter minInt = &NumberFormat::setMinimumIntegerDigits;
 const Setter maxFrac = &NumberFormat::setMaximumFractionDigits;
 const Setter minFrac = &NumberFormat::setMinimumFractionDigits;
 
-TEST(NumberFormat, SettersDragTheirPartnersAlong) {
+TEST(NumberFormat, SettersAdjustTheOtherLimit) {
     struct {
         int line;
         const char* pattern;
         Step first, second;
-        const char* form; ///< and the text of the whole number 7
+        const char* form; ///< the dump, and the text of the whole number 7
     } const rows[] = {
         {__LINE__, "#,##0", {maxInt, 9}, {maxInt, 4}, "1-4.0-0, | 0 | 4,568 | -1,235 | 7"},
         {__LINE__, "0", {maxInt, 1}, {maxInt, 0}, "0-0.0-0 |  |  | - | "},
@@ -82,7 +82,7 @@ TEST(NumberFormat, SettersDragTheirPartnersAlong) {
     }
 }
 
-TEST(NumberFormat, LongBeyond32BitsFails) {
+TEST(NumberFormat, LongBeyond32BitsThrows) {
     if (sizeof(long) == sizeof(std::int32_t)) {
         GTEST_SKIP() << "long has no values beyond 32 bits";
     }

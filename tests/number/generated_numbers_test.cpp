@@ -13,7 +13,7 @@
 namespace zem::msglib {
 namespace {
 
-// Doubles of the kinds that break the writing of numbers, one kind after the other. Numbers with
+// Returns doubles of the kinds that break number formatting, one kind after the other. Numbers with
 // hundreds of digits take long, so they are rare.
 double someDouble(int count, std::mt19937_64& random) {
     const std::uint64_t bits = random();
@@ -21,8 +21,8 @@ double someDouble(int count, std::mt19937_64& random) {
     const auto small = static_cast<double>(bits % 2000000);
     const int exponent = static_cast<int>(bits % 48) - 24;
     const double neighbour = sign * (count % 3 == 0 ? 1.0 : 1.0 + std::ldexp(count % 3 - 1.5, -52));
-    if (count % 64 < 2) { // any bits, and subnormal ones
-        const std::uint64_t some = bits >> (count % 64 == 0 ? 0U : 12U);
+    if (count % 64 < 3) { // any bits, subnormal numbers, and those of few bits
+        const std::uint64_t some = bits >> (count % 64 == 0 ? 0U : count % 64 == 1 ? 12U : 58U);
         double value = 0.0;
         std::memcpy(&value, &some, sizeof value);
         return value;
@@ -36,7 +36,7 @@ double someDouble(int count, std::mt19937_64& random) {
     }
 }
 
-TEST(GeneratedNumbers, AgreeWithAPlainReading) {
+TEST(GeneratedNumbers, AgreeWithExactArithmetic) {
     const struct {
         int line;
         const char* pattern;
@@ -52,7 +52,7 @@ TEST(GeneratedNumbers, AgreeWithAPlainReading) {
         SCOPED_TRACE(row.line);
         const DecimalFormat format(row.pattern, {});
         std::mt19937_64 random(20);
-        for (int count = 0; count < 1'000'000; ++count) {
+        for (int count = 0; count < 200'000; ++count) {
             const double value = someDouble(count, random);
             std::string text;
             ASSERT_EQ(format.format(value, text), row.plain.text(value)) << std::hexfloat << value;

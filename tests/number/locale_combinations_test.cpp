@@ -12,8 +12,8 @@
 #include <list>
 #include <memory>
 
-// A number has three ways to its text: at once in a message, by the formatter of a factory, and by
-// compiling the pattern. All have to agree, whatever the platform's locale values are.
+// A number can be rendered in three ways: directly by a message, by the formatter of a factory, and
+// by compiling the pattern. All must agree, whatever the platform's locale values are.
 
 namespace zem::msglib {
 namespace {
@@ -37,16 +37,16 @@ const double largest = std::numeric_limits<double>::max();
 const double values[] = {0.0,     -0.0,    0.5,      -0.5,     -0.004,    1234567.891,
                          -1234.5, largest, -largest, infinity, -infinity, std::nan("")};
 
-std::string textAtOnce(const std::string& message, const boost::any& argument) {
+std::string directText(const std::string& message, const boost::any& argument) {
     return MessageLibrary::instance().formatMessage(message, {argument});
 }
 
 void compare(const Kind& kind) {
-    const std::unique_ptr<NumberFormat> made(kind.factory(std::locale()));
+    const std::unique_ptr<NumberFormat> byFactory(kind.factory(std::locale()));
     const DecimalFormat compiled(LocaleNumber(kind.type).pattern(), DecimalFormatSymbols());
     for (const double value : values) {
-        const std::string text = textOf(*made, value);
-        EXPECT_EQ(textAtOnce(kind.message, value), text) << kind.message << ' ' << value;
+        const std::string text = textOf(*byFactory, value);
+        EXPECT_EQ(directText(kind.message, value), text) << kind.message << ' ' << value;
         EXPECT_EQ(textOf(compiled, value), text) << kind.message << ' ' << value;
     }
 }
@@ -54,12 +54,12 @@ void compare(const Kind& kind) {
 void compareWholeNumbers() {
     const std::unique_ptr<NumberFormat> integer(NumberFormat::getIntegerInstance(std::locale()));
     for (const int value : {0, 7, 1234567, -1234}) {
-        EXPECT_EQ(textAtOnce("{0}", value), textOf(*integer, boost::any(value))) << value;
+        EXPECT_EQ(directText("{0}", value), textOf(*integer, boost::any(value))) << value;
     }
     const std::unique_ptr<NumberFormat> rounded(NumberFormat::getNumberInstance(std::locale()));
     rounded->setMaximumFractionDigits(0);
     for (const double value : values) {
-        EXPECT_EQ(textAtOnce("{0,number,integer}", value), textOf(*rounded, value)) << value;
+        EXPECT_EQ(directText("{0,number,integer}", value), textOf(*rounded, value)) << value;
     }
 }
 
@@ -74,7 +74,7 @@ void compareAll() {
     compare(amount);
 }
 
-// Compares with the values as they are, with each value missing and with the locale unknown.
+// Compares with all values, with each value missing in turn, and with the locale unknown.
 void compareWithout(const LocaleValues& changes) {
     const FakeLocale locale(changes);
     compareAll();
@@ -89,9 +89,9 @@ void compareWithout(const LocaleValues& changes) {
     compareAll();
 }
 
-// Calls `compareNow` with each layout of the digits, added to `others`.
+// Calls `compareWith` with `others` and every layout of the digits.
 template <class Compare>
-void forEachLayout(const LocaleValues& others, Compare compareNow) {
+void forEachLayout(const LocaleValues& others, Compare compareWith) {
     for (const char* grouping : {"0", "1", "3;0"}) {
         for (const char* zero : {"0", "1"}) {
             for (const char* digits : {"0", "1", "2"}) {
@@ -102,7 +102,7 @@ void forEachLayout(const LocaleValues& others, Compare compareNow) {
                             {LOCALE_IDIGITS, digits},
                             {LOCALE_ICURRDIGITS, digits}});
                 SCOPED_TRACE(std::string(grouping) + " " + zero + " " + digits);
-                compareNow(all);
+                compareWith(all);
             }
         }
     }
@@ -114,7 +114,7 @@ const LocaleValues symbols[] = {
     {{LOCALE_SCURRENCY, "\xE2\x82\xAC"}, {LOCALE_SMONDECIMALSEP, "%#"}, {LOCALE_STHOUSAND, ""}},
 };
 
-TEST(LocaleCombinations, OfPlainNumbers) {
+TEST(LocaleCombinations, PlainNumbers) {
     for (LocaleValues others : symbols) {
         for (const char* negative : {"0", "1", "2", "3", "4", "5"}) {
             SCOPED_TRACE(negative);
@@ -127,7 +127,7 @@ TEST(LocaleCombinations, OfPlainNumbers) {
     }
 }
 
-TEST(LocaleCombinations, OfAmounts) {
+TEST(LocaleCombinations, Amounts) {
     for (LocaleValues others : symbols) {
         for (const char* positive : {"0", "1", "2", "3", "4"}) {
             for (int negative = 0; negative <= 16; ++negative) {
@@ -143,13 +143,13 @@ TEST(LocaleCombinations, OfAmounts) {
     }
 }
 
-TEST(LocaleCombinations, WithOneValueMissing) {
+TEST(LocaleCombinations, OneValueMissing) {
     forEachLayout({}, compareWithout);
     forEachLayout({{LOCALE_ICURRENCY, "3"}, {LOCALE_INEGCURR, "11"}}, compareWithout);
     forEachLayout({{LOCALE_ICURRENCY, "none"}, {LOCALE_INEGCURR, "16"}}, compareWithout);
 }
 
-TEST(LocaleCombinations, OfOddValues) {
+TEST(LocaleCombinations, OddValues) {
     const std::string longest(63, '.');
     const struct {
         int line;

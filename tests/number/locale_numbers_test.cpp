@@ -19,7 +19,7 @@ const LocaleValues otherSymbols = {{LOCALE_SDECIMAL, ","},       {LOCALE_STHOUSA
                                    {LOCALE_SCURRENCY, "EUR"},    {LOCALE_SINTLSYMBOL, "XYZ"},
                                    {LOCALE_SNEGATIVESIGN, "~"},  {LOCALE_SNATIVEDIGITS, "ABC"}};
 
-// The symbols as one text, but for those that are always the same.
+// Returns the symbols as one text, except those that are always the same.
 std::string dump(const DecimalFormatSymbols& symbols) {
     EXPECT_EQ(symbols.getInfinity() + symbols.getNaN(), "1.#INF1.#NaN");
     EXPECT_EQ((std::string{symbols.getPercent(), symbols.getExponential()}), "%E");
@@ -34,7 +34,7 @@ TEST(LocaleSymbols, EachComesFromItsOwnQuery) {
         int line;
         std::uint32_t lctype;
         const char* failing; ///< symbols if this query fails
-        const char* empty;   ///< symbols if it succeeds with no text
+        const char* empty;   ///< symbols if it succeeds with an empty text
     } rows[] = {
         {__LINE__, LOCALE_SCURRENCY, "$ XYZ ~,:.'A", " XYZ ~,:.'A"},
         {__LINE__, LOCALE_SINTLSYMBOL, "EUR $ ~,:.'A", "EUR  ~,:.'A"},
@@ -62,7 +62,7 @@ TEST(LocaleSymbols, EachComesFromItsOwnQuery) {
     EXPECT_EQ(text.size(), 309 + 309 * longest.size() + 1);
 }
 
-TEST(LocaleSymbols, StandInTexts) {
+TEST(LocaleSymbols, AppearInTexts) {
     LocaleValues digits = otherSymbols;
     digits[LOCALE_SNATIVEDIGITS] = "0";
     const LocaleValues highDigits = {{LOCALE_SNATIVEDIGITS, "\xF0"}};
@@ -108,13 +108,13 @@ const Factory integer = NumberFormat::getIntegerInstance;
 const Factory currency = NumberFormat::getCurrencyInstance;
 const Factory percent = NumberFormat::getPercentInstance;
 
-// What a placeholder writes that makes no formatter.
-std::string textAtOnce(const LocaleNumber& form, double value) {
+// Renders as a message does without compiling.
+std::string directText(const LocaleNumber& form, double value) {
     std::string text;
     return TextOutput::to(text, [&](TextOutput& out) { form.appendArgument(value, out); });
 }
 
-// The form of what the factory makes. A placeholder has to write its numbers alike.
+// Returns the dump of the factory's formatter, and checks that rendering directly agrees with it.
 std::string formOf(Factory factory) {
     const std::locale locale;
     const std::unique_ptr<NumberFormat> format(factory(locale));
@@ -127,8 +127,8 @@ std::string formOf(Factory factory) {
     const double largest = std::numeric_limits<double>::max();
     for (const double value : {0.0, -0.0, 0.5, -0.004, 4.005, 1234567.891, 1e23, largest, -1234.5,
                                HUGE_VAL, -HUGE_VAL, std::nan("")}) {
-        EXPECT_EQ(textAtOnce(LocaleNumber(type), value), textOf(*format, value)) << value;
-        EXPECT_EQ(textAtOnce(LocaleNumber::rounded(), value), textOf(*rounded, value)) << value;
+        EXPECT_EQ(directText(LocaleNumber(type), value), textOf(*format, value)) << value;
+        EXPECT_EQ(directText(LocaleNumber::rounded(), value), textOf(*rounded, value)) << value;
     }
     return dump(*format);
 }
@@ -220,7 +220,7 @@ TEST(LocalePatterns, WithoutLocaleValues) {
     EXPECT_EQ(formOf(number), "1.2-2, | A,AA | B.CDE.FGH,IJ | -B.CDE,FA");
 }
 
-// An explicit instantiation may name what is private.
+// An explicit instantiation may name private members.
 template <class Operation, Operation Private>
 struct Access {
     friend Operation privateOperation(Operation) { return Private; }
@@ -229,7 +229,7 @@ using CreateInstance = NumberFormat* (*)(const std::locale&, NumberFormat::Forma
 CreateInstance privateOperation(CreateInstance);
 template struct Access<CreateInstance, &NumberFormat::createInstance>;
 
-TEST(LocalePatterns, OfTypesThatAreNone) {
+TEST(LocalePatterns, InvalidTypeHasAnEmptyPattern) {
     const FakeLocale locale(otherSymbols);
     const auto none = static_cast<NumberFormat::FormatType>(4);
     const auto create = privateOperation(CreateInstance());

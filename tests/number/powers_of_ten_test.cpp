@@ -26,7 +26,7 @@ std::int64_t bitsOf(double x) {
     return bits;
 }
 
-// Searches some thousand doubles on both sides of the power of ten.
+// Finds the lowest double with the exponent, by a binary search around the power of ten.
 double leastWithExponent(int exponent) {
     std::int64_t low = std::max(bitsOf(plainPowerOfTen(exponent)) - 4096, std::int64_t{1});
     std::int64_t high = low + 8192;
@@ -58,7 +58,7 @@ TEST(PowersOfTen, DecimalExponentsChangeWhereExactLogarithmsChangeThem) {
     }
 }
 
-TEST(PowersOfTen, DecimalExponentsHoldAtBothEndsOfEveryBinaryExponent) {
+TEST(PowersOfTen, DecimalExponentsAtBothEndsOfEveryBinaryExponent) {
     for (int exponent = -1074; exponent <= 1023; ++exponent) {
         const double first = std::ldexp(1.0, exponent);
         const double last = std::nextafter(first * 2.0, 0.0);

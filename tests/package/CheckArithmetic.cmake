@@ -1,5 +1,5 @@
-# Configures the project in TREE with one set of flags after the other. Those that loosen arithmetic must be refused,
-# whatever the answer was before.
+# Configures the project in TREE with one set of flags after the other. Flags that relax arithmetic must be rejected,
+# whatever the result of the run before was.
 
 function(configure expected flags)
     execute_process(
@@ -10,7 +10,7 @@ function(configure expected flags)
     if(result EQUAL 0)
         set(found accepted)
     elseif(errors MATCHES "msglib needs plain binary64 arithmetic")
-        set(found refused)
+        set(found rejected)
     else()
         set(found "an error")
     endif()
@@ -21,8 +21,8 @@ endfunction()
 
 file(REMOVE_RECURSE ${TREE})
 configure(accepted "-O2")
-configure(refused "-Ofast")
-configure(refused "-O2 -ffinite-math-only")
-configure(refused "-O2 -funsafe-math-optimizations")
-configure(refused "-O2 -freciprocal-math")
+configure(rejected "-Ofast")
+configure(rejected "-O2 -ffinite-math-only")
+configure(rejected "-O2 -funsafe-math-optimizations")
+configure(rejected "-O2 -freciprocal-math")
 configure(accepted "-O2 -fno-math-errno")

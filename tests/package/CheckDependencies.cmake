@@ -1,4 +1,4 @@
-# Fails if LIBRARY needs another library than those of the C++ run time and the system itself.
+# Fails if LIBRARY depends on any library other than those of the C++ run time and the system.
 
 cmake_minimum_required(VERSION 3.22)
 execute_process(COMMAND ${OBJDUMP} --private-headers ${LIBRARY}

@@ -1,6 +1,6 @@
-# Fails if LIBRARY exports a symbol that is no member, virtual table or type information of one of CLASSES, comma-separated,
-# and no output operator of the stream, or if it exports nothing of one of them, or if one is unique in the whole process: the
-# loader never unloads a library whose unique symbol has been used.
+# CLASSES is a comma-separated list. Fails if LIBRARY exports a symbol other than the members, virtual tables and type
+# information of these classes and the output operators of the stream, or exports nothing of one of them. Fails too if a symbol
+# is unique in the process: the loader never unloads a library once one of its unique symbols is bound.
 
 cmake_minimum_required(VERSION 3.22)
 string(REPLACE "," ";" classes "${CLASSES}")
@@ -30,7 +30,7 @@ foreach(line IN LISTS lines)
     if(name MATCHES "^zem::msglib::([A-Za-z]+)(::|$)" AND CMAKE_MATCH_1 IN_LIST classes)
         list(APPEND seen ${CMAKE_MATCH_1})
     elseif(symbol STREQUAL "typeinfo for ${standard_string}")
-        continue() # shared with the program, so that arguments are told by its address
+        continue() # shared with the program, so that comparing addresses identifies arguments
     elseif(NOT name MATCHES "^zem::msglib::operator<<\\(zem::msglib::MessageFormatStream const&")
         list(APPEND leaked ${symbol})
     endif()

@@ -1,10 +1,10 @@
-# Fails if one of OBJECTS, comma-separated, or LIBRARY, if there is one, runs code of its own when it is loaded. Whatever the
-# order of a program's static objects is, the library is then ready before the first of them.
+# Fails if one of OBJECTS, comma-separated, or LIBRARY, if given, runs its own code when it is loaded. Without such code the
+# library is ready before the first static object of a program, in any order of construction.
 
 cmake_minimum_required(VERSION 3.22)
 string(REPLACE "," ";" objects "${OBJECTS}")
 
-# Stores the size of the lists of start-up functions in `file`, as lines of hexadecimal numbers.
+# Stores the sizes of the lists of start-up functions in `file`, as a list of hexadecimal numbers.
 function(read_start_up_lists file result)
     execute_process(COMMAND ${OBJDUMP} --section-headers ${file}
         OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
@@ -20,10 +20,10 @@ foreach(object IN LISTS objects)
     endif()
 endforeach()
 
-# The C run-time library has one function in each library.
+# The C run-time library adds one function to each library.
 if(LIBRARY)
     read_start_up_lists(${LIBRARY} lists)
     if(NOT lists EQUAL ${POINTER_SIZE})
-        message(SEND_ERROR "the library has more start-up functions than one: ${lists} bytes")
+        message(SEND_ERROR "the library has more than one start-up function: ${lists} bytes")
     endif()
 endif()

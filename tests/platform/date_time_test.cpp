@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <cstring>
+#include <ostream>
 #include <string>
 #include <thread>
 #include <utility>
@@ -16,12 +17,19 @@ bool operator==(const SYSTEMTIME& left, const SYSTEMTIME& right) {
     return std::memcmp(&left, &right, sizeof left) == 0;
 }
 
+// Lets a failure show the fields.
+void PrintTo(const SYSTEMTIME& time, std::ostream* out) {
+    *out << time.wYear << '-' << time.wMonth << '-' << time.wDay << " day " << time.wDayOfWeek
+         << ", " << time.wHour << ':' << time.wMinute << ':' << time.wSecond << '.'
+         << time.wMilliseconds;
+}
+
 namespace {
 
 using Operation = int (*)(std::uint32_t, std::uint32_t, const SYSTEMTIME*, const char*, char*,
                           int) noexcept;
 
-// The fields that the other operation reads make no sense.
+// The fields of the other operation are invalid and must be ignored.
 SYSTEMTIME date(std::uint16_t year, std::uint16_t month, std::uint16_t day) {
     return {year, month, 99, day, 99, 0, 0, 0};
 }
@@ -31,12 +39,12 @@ SYSTEMTIME timeOfDay(std::uint16_t hour, std::uint16_t minute, std::uint16_t sec
     return {0, 0, 0, 0, hour, minute, second, milliseconds};
 }
 
-/// Asks for the length, writes into exactly that many bytes, and then into one byte less, which
-/// must fail.
+/// Queries the length, writes into exactly that many bytes, and then into one byte less, which must
+/// fail. Returns the text.
 std::string render(Operation operation, const SYSTEMTIME& fields, const char* picture) {
     const int length = operation(localeIdentifier, 0, &fields, picture, nullptr, 0);
     if (length <= 0) {
-        return "refused by " + std::to_string(GetLastError());
+        return "fails with " + std::to_string(GetLastError());
     }
     std::string text(static_cast<std::size_t>(length), '?');
     EXPECT_EQ(operation(localeIdentifier, 0, &fields, picture, text.data(), length), length);
@@ -91,8 +99,9 @@ TEST(DateTimePictures, EveryFieldAndQuotes) {
     }
 }
 
-// Nothing but the failures may come in between: creating and joining threads can leave reasons too.
-TEST(DateTimePictures, TheReasonBelongsToItsThread) {
+// No other operation may come between the failures: creating and joining threads can set the last
+// error too.
+TEST(DateTimePictures, LastErrorBelongsToItsThread) {
     std::atomic<int> failures = 0;
     std::thread other([&failures] {
         while (failures < 1) {
@@ -102,7 +111,7 @@ TEST(DateTimePictures, TheReasonBelongsToItsThread) {
         EXPECT_EQ(GetLastError(), ERROR_INSUFFICIENT_BUFFER);
         failures = 2;
     });
-    EXPECT_EQ(render(GetTimeFormatA, timeOfDay(24, 0, 0), "h"), "refused by 87");
+    EXPECT_EQ(render(GetTimeFormatA, timeOfDay(24, 0, 0), "h"), "fails with 87");
     failures = 1;
     while (failures < 2) {
     }
@@ -114,7 +123,7 @@ FILETIME halves(std::uint64_t count) {
     return {static_cast<std::uint32_t>(count), static_cast<std::uint32_t>(count >> 32)};
 }
 
-TEST(FileTime, CountsAndFieldsTurnIntoEachOther) {
+TEST(FileTime, ConvertsCountsAndFieldsBothWays) {
     const std::pair<std::uint64_t, SYSTEMTIME> times[] = {
         {0, {1601, 1, 1, 1, 0, 0, 0, 0}},
         {94'354'847'990'000'000, {1899, 12, 0, 31, 23, 59, 59, 0}},
@@ -129,7 +138,7 @@ TEST(FileTime, CountsAndFieldsTurnIntoEachOther) {
         const FILETIME asHalves = halves(count);
         SYSTEMTIME fields = {};
         EXPECT_TRUE(FileTimeToSystemTime(&asHalves, &fields));
-        EXPECT_TRUE(fields == expected);
+        EXPECT_EQ(fields, expected);
         fields.wDayOfWeek = 99;
         FILETIME back = {};
         EXPECT_TRUE(SystemTimeToFileTime(&fields, &back));
@@ -138,40 +147,40 @@ TEST(FileTime, CountsAndFieldsTurnIntoEachOther) {
     SYSTEMTIME fields = {};
     FILETIME count = halves((std::uint64_t{1} << 63) - 1);
     EXPECT_TRUE(FileTimeToSystemTime(&count, &fields));
-    EXPECT_TRUE((fields == SYSTEMTIME{30828, 9, 4, 14, 2, 48, 5, 477}));
-    for (const std::uint64_t refused : {std::uint64_t{1} << 63, ~std::uint64_t{0}}) {
-        count = halves(refused);
+    EXPECT_EQ(fields, (SYSTEMTIME{30828, 9, 4, 14, 2, 48, 5, 477}));
+    for (const std::uint64_t beyond : {std::uint64_t{1} << 63, ~std::uint64_t{0}}) {
+        count = halves(beyond);
         EXPECT_FALSE(FileTimeToSystemTime(&count, &fields));
         EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
     }
 }
 
-void expectRefused(Operation operation, const SYSTEMTIME& fields) {
-    EXPECT_EQ(render(operation, fields, "no letter"), "refused by 87");
+void expectRejected(Operation operation, const SYSTEMTIME& fields) {
+    EXPECT_EQ(render(operation, fields, "no letter"), "fails with 87");
     FILETIME count = {};
     EXPECT_FALSE(SystemTimeToFileTime(&fields, &count));
     EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
 }
 
-TEST(FileTime, FieldsThatNameNoTimeAreRefused) {
-    const SYSTEMTIME noDates[] = {{1600, 12, 0, 31, 0, 0, 0, 0}, {1970, 0, 0, 1, 0, 0, 0, 0},
-                                  {1970, 13, 0, 1, 0, 0, 0, 0},  {1970, 1, 0, 0, 0, 0, 0, 0},
-                                  {1970, 1, 0, 32, 0, 0, 0, 0},  {1970, 6, 0, 31, 0, 0, 0, 0}};
-    const SYSTEMTIME noDatesButUnderWine[] = {{30828, 1, 0, 1, 0, 0, 0, 0},
-                                              {2100, 2, 0, 29, 0, 0, 0, 0}};
-    const SYSTEMTIME noTimes[] = {{1970, 1, 0, 1, 24, 0, 0, 0},
-                                  {1970, 1, 0, 1, 0, 60, 0, 0},
-                                  {1970, 1, 0, 1, 0, 0, 60, 0},
-                                  {1970, 1, 0, 1, 0, 0, 0, 1000}};
-    for (const SYSTEMTIME& fields : noDates) {
-        expectRefused(GetDateFormatA, fields);
+TEST(FileTime, InvalidFieldsAreRejected) {
+    const SYSTEMTIME invalidDates[] = {{1600, 12, 0, 31, 0, 0, 0, 0}, {1970, 0, 0, 1, 0, 0, 0, 0},
+                                       {1970, 13, 0, 1, 0, 0, 0, 0},  {1970, 1, 0, 0, 0, 0, 0, 0},
+                                       {1970, 1, 0, 32, 0, 0, 0, 0},  {1970, 6, 0, 31, 0, 0, 0, 0}};
+    const SYSTEMTIME invalidDatesExceptUnderWine[] = {{30828, 1, 0, 1, 0, 0, 0, 0},
+                                                      {2100, 2, 0, 29, 0, 0, 0, 0}};
+    const SYSTEMTIME invalidTimes[] = {{1970, 1, 0, 1, 24, 0, 0, 0},
+                                       {1970, 1, 0, 1, 0, 60, 0, 0},
+                                       {1970, 1, 0, 1, 0, 0, 60, 0},
+                                       {1970, 1, 0, 1, 0, 0, 0, 1000}};
+    for (const SYSTEMTIME& fields : invalidDates) {
+        expectRejected(GetDateFormatA, fields);
     }
-    for (const SYSTEMTIME& fields : noTimes) {
-        expectRefused(GetTimeFormatA, fields);
+    for (const SYSTEMTIME& fields : invalidTimes) {
+        expectRejected(GetTimeFormatA, fields);
     }
-    for (const SYSTEMTIME& fields : noDatesButUnderWine) {
+    for (const SYSTEMTIME& fields : invalidDatesExceptUnderWine) {
         if (!runsUnderWine()) {
-            expectRefused(GetDateFormatA, fields);
+            expectRejected(GetDateFormatA, fields);
         }
     }
 }

@@ -36,7 +36,7 @@ TEST(LocaleValues, WritesEveryValueForBothIdentifiers) {
     }
 }
 
-TEST(LocaleValues, RefusalsLeaveTheirReason) {
+TEST(LocaleValues, FailuresSetTheLastError) {
     char buffer[64];
     const auto reason = [](std::uint32_t locale, std::uint32_t lctype, char* out, int size) {
         EXPECT_EQ(GetLocaleInfoA(locale, lctype, out, size), 0);

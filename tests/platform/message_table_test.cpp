@@ -16,7 +16,7 @@ namespace {
 
 using Data = std::vector<unsigned char>;
 
-/// Returns the data where memory ends, so that each read beyond it is a fault.
+/// Copies the data to the end of mapped memory, so that every read beyond it faults.
 Bytes atEndOfMemory(const Data& data) {
     constexpr std::size_t most = 4096;
     static unsigned char* const end = [] {
@@ -36,8 +36,8 @@ Data bytesOf(const std::vector<char16_t>& units) {
     return data;
 }
 
-// As the message compiler writes it. A block is the lowest and the highest identifier, and where
-// its entries begin; an entry its length in bytes, 1 for UTF-16, and the text.
+// A table as the message compiler writes it. A block has the lowest and the highest identifier and
+// the offset of its entries; an entry has its length in bytes, 1 for UTF-16, and the text.
 const Data sampleTable = bytesOf({
     3,  0,                                                           // blocks
     1,  0,      3,    0,      40,   0,                               //
@@ -57,13 +57,13 @@ std::u16string textOf(const MessageText& text) {
     return units;
 }
 
-/// Returns the text of a message, empty if there is none.
+/// Returns the text of a message, or an empty text if there is none.
 std::u16string find(const Data& table, std::uint32_t id) {
     return textOf(TableReader(atEndOfMemory(table)).find(id));
 }
 
-/// Calls `check` with the data cut off everywhere, with every other value of each byte, and with
-/// every field that may be meant at the ends of what it may hold.
+/// Calls `check` with the data cut off at every position, with every value of each byte, and with
+/// values near limits in every field of two or four bytes.
 template <class Check>
 void damage(const Data& data, const Check& check) {
     for (std::size_t size = 0; size < data.size(); ++size) {
@@ -92,7 +92,7 @@ void damage(const Data& data, const Check& check) {
     }
 }
 
-TEST(TableReader, FindsWhatIsThereHoweverItIsDamaged) {
+TEST(TableReader, FindsMessagesAndSurvivesDamage) {
     const std::pair<std::uint32_t, std::u16string> messages[] = {{0, u""},
                                                                  {1, u"one\r\n"},
                                                                  {2, u""},
@@ -110,7 +110,8 @@ TEST(TableReader, FindsWhatIsThereHoweverItIsDamaged) {
         damage(sampleTable, [&](const Data& damaged) {
             const std::u16string text = find(damaged, id);
             const bool isCut = damaged.size() < sampleTable.size();
-            EXPECT_TRUE(text.empty() || text == message.second || !isCut);
+            EXPECT_TRUE(text.empty() || text == message.second || !isCut)
+                << testing::PrintToString(text);
             EXPECT_LT(2 * text.size(), sampleTable.size());
         });
     }
@@ -150,7 +151,7 @@ struct Note {
     std::string name;
     std::uint32_t type;
     std::uint32_t language;
-    char16_t messageId, text; ///< all that the table has
+    char16_t messageId, text; ///< the only message of the table
 };
 
 Data makeNotes(std::size_t alignment) {
@@ -183,7 +184,7 @@ Data makeNotes(std::size_t alignment) {
     return data;
 }
 
-TEST(NoteReader, TakesTheFirstNoteThatHasTheMessageHoweverItIsDamaged) {
+TEST(NoteReader, FindsTheFirstNoteWithTheMessageAndSurvivesDamage) {
     for (const std::size_t alignment : {4U, 8U}) {
         const Data notes = makeNotes(alignment);
         const auto find = [&](const Data& data, std::uint32_t language) {
@@ -195,7 +196,7 @@ TEST(NoteReader, TakesTheFirstNoteThatHasTheMessageHoweverItIsDamaged) {
         damage(notes, [&](const Data& damaged) {
             const std::u16string text = find(damaged, 0x409);
             const bool isCut = damaged.size() < notes.size();
-            EXPECT_TRUE(text.empty() || text == u"1" || !isCut);
+            EXPECT_TRUE(text.empty() || text == u"1" || !isCut) << testing::PrintToString(text);
             EXPECT_LT(2 * text.size(), notes.size());
         });
     }

@@ -19,7 +19,7 @@ HMODULE moduleOf(const void* address) {
     return size != 0 && information.Type == MEM_IMAGE ? information.AllocationBase : nullptr;
 }
 
-TEST(ModuleImage, OneModuleHoldsAllOfThisProgram) {
+TEST(ModuleImage, OneModuleContainsTheWholeProgram) {
     const HMODULE program = moduleOf(&constantOfThisProgram);
     ASSERT_NE(program, nullptr);
     for (const void* address :
@@ -51,7 +51,7 @@ TEST(ModuleImage, OtherAddressesAreInNoModuleAndHaveNoTexts) {
     }
 }
 
-TEST(ModuleImage, NeedsRoomForAllItTells) {
+TEST(ModuleImage, RejectsAStructureThatIsTooSmall) {
     MEMORY_BASIC_INFORMATION information;
     EXPECT_EQ(VirtualQuery(&constantOfThisProgram, &information, sizeof information - 1), 0U);
     EXPECT_EQ(VirtualQuery(&constantOfThisProgram, nullptr, 0), 0U);

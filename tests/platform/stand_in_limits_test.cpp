@@ -1,5 +1,5 @@
-// What the operations of this system refuse beyond their contract: they know one locale, and have
-// no defaults.
+// The limits of our stand-in operations, which the contract doesn't demand: they have one locale
+// and accept no default arguments.
 
 #include "platform/LastError.h"
 #include "platform/LocaleServices.h"
@@ -26,20 +26,20 @@ int convert(std::uint32_t codePage, int count) {
 }
 
 template <class Operation>
-bool hasNoDefaults(const Operation& operation) {
-    const bool asked = operation(english, 1, &fields, "x", buffer, 8) == 0 &&
-                       GetLastError() == ERROR_INVALID_FLAGS;
-    return asked && operation(german, 0, &fields, "x", buffer, 8) == 0 &&
-           operation(english, 0, nullptr, "x", buffer, 8) == 0 &&
-           operation(english, 0, &fields, nullptr, buffer, 8) == 0 &&
-           operation(english, 0, &fields, "x", nullptr, 8) == 0 &&
-           operation(english, 0, &fields, "x", buffer, -1) == 0 &&
-           GetLastError() == ERROR_INVALID_PARAMETER;
+void expectNoDefaults(const Operation& operation) {
+    EXPECT_EQ(operation(english, 1, &fields, "x", buffer, 8), 0);
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_FLAGS);
+    EXPECT_EQ(operation(german, 0, &fields, "x", buffer, 8), 0);
+    EXPECT_EQ(operation(english, 0, nullptr, "x", buffer, 8), 0);
+    EXPECT_EQ(operation(english, 0, &fields, nullptr, buffer, 8), 0);
+    EXPECT_EQ(operation(english, 0, &fields, "x", nullptr, 8), 0);
+    EXPECT_EQ(operation(english, 0, &fields, "x", buffer, -1), 0);
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_PARAMETER);
 }
 
-TEST(StandInLimits, RefusalsLeaveTheirReason) {
-    EXPECT_TRUE(hasNoDefaults(GetDateFormatA));
-    EXPECT_TRUE(hasNoDefaults(GetTimeFormatA));
+TEST(StandInLimits, FailuresSetTheLastError) {
+    expectNoDefaults(GetDateFormatA);
+    expectNoDefaults(GetTimeFormatA);
     static const void* const program = [] {
         MEMORY_BASIC_INFORMATION information;
         VirtualQuery("literal", &information, sizeof information);
@@ -63,7 +63,7 @@ TEST(StandInLimits, RefusalsLeaveTheirReason) {
         EXPECT_EQ(row.operation(), 0);
         EXPECT_EQ(GetLastError(), row.reason);
         EXPECT_EQ(GetLocaleInfoA(english, LOCALE_SDECIMAL, nullptr, 0), 2);
-        EXPECT_EQ(GetLastError(), row.reason) << "success leaves the reason";
+        EXPECT_EQ(GetLastError(), row.reason) << "a success changes the last error";
     }
     EXPECT_EQ(ConvertDefaultLocale(german), german);
     EXPECT_FALSE(IsValidLocale(german, LCID_INSTALLED));

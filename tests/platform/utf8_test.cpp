@@ -58,7 +58,7 @@ TEST(WideCharToMultiByteTest, ConvertsAnyUnitAnywhere) {
     }
 }
 
-TEST(WideCharToMultiByteTest, RefusesWhatIsNoText) {
+TEST(WideCharToMultiByteTest, RejectsInvalidArguments) {
     char output[8];
     EXPECT_EQ(convert(u"", output, 8), 0);
     EXPECT_EQ(convert(u"a", output, -1), 0);

@@ -20,8 +20,8 @@
 
 namespace zem::msglib::tool {
 
-/// Returns the words with which the library refuses a pattern; empty if it compiles.
-inline std::string refusalOf(std::string_view pattern) {
+/// Returns the text of the failure of compiling a pattern, or nothing if it compiles.
+inline std::string failureOfCompiling(std::string_view pattern) {
     try {
         const MessageFormat format{std::string(pattern)};
         return {};
@@ -30,8 +30,8 @@ inline std::string refusalOf(std::string_view pattern) {
     }
 }
 
-/// Tells whether each byte of a text is where it says it comes from, in ascending order.
-inline bool isTracedRightly(const TracedText& text) {
+/// Returns whether the traced offset of each byte has that byte in the file, in ascending order.
+inline bool hasTrueOffsets(const TracedText& text) {
     std::size_t next = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const std::size_t offset = text.placeOf(text.text().substr(at, 0)).offset;
@@ -44,9 +44,9 @@ inline bool isTracedRightly(const TracedText& text) {
     return true;
 }
 
-/// Tells whether the library chooses the texts that the tree has, for the limits themselves and for
-/// what is below all of them.
-inline bool choosesAsTheLibrary(const PatternTree& tree, const Placeholder& choice) {
+/// Returns whether the library chooses the same texts as the tree, for the limits and for a number
+/// below all limits.
+inline bool choosesLikeTheLibrary(const PatternTree& tree, const Placeholder& choice) {
     const ChoiceFormat format{std::string(choice.style.text())};
     std::set<double> values = {-1e300};
     for (const ChoiceEntry& entry : choice.entries) {
@@ -56,7 +56,7 @@ inline bool choosesAsTheLibrary(const PatternTree& tree, const Placeholder& choi
         ChoiceSearch search(value);
         std::string_view chosen;
         for (const ChoiceEntry& entry : choice.entries) {
-            if (search.takes(entry.limit)) {
+            if (search.accepts(entry.limit)) {
                 chosen = tree.texts()[entry.text].text.text();
             }
         }
@@ -66,39 +66,39 @@ inline bool choosesAsTheLibrary(const PatternTree& tree, const Placeholder& choi
     });
 }
 
-/// Returns what doesn't hold for one text of a tree; empty if all holds.
+/// Returns the property that one text of a tree violates, or nothing.
 inline std::string violationIn(const PatternTree& tree, const PatternText& text) {
-    if (!isTracedRightly(text.text)) {
-        return "each byte comes from where it says";
+    if (!hasTrueOffsets(text.text)) {
+        return "each byte has its offset in the file";
     }
-    const std::string refusal = refusalOf(text.text.text());
-    const auto hasWords = [&refusal](const SyntaxError& error) { return error.words == refusal; };
-    if (refusal.empty() ? !text.errors.empty()
+    const std::string failure = failureOfCompiling(text.text.text());
+    const auto hasWords = [&failure](const SyntaxError& error) { return error.words == failure; };
+    if (failure.empty() ? !text.errors.empty()
                         : std::none_of(text.errors.begin(), text.errors.end(), hasWords)) {
-        return "the check accepts what the library accepts, and has its words";
+        return "the check accepts what the library accepts, and reports its failures";
     }
     for (const Placeholder& placeholder : text.placeholders) {
-        if (refusal.empty() && !placeholder.entries.empty() &&
-            !choosesAsTheLibrary(tree, placeholder)) {
-            return "the texts are those that the library chooses";
+        if (failure.empty() && !placeholder.entries.empty() &&
+            !choosesLikeTheLibrary(tree, placeholder)) {
+            return "the library chooses the same texts";
         }
     }
     return {};
 }
 
-/// Returns what doesn't hold for the check of a pattern; empty if all holds.
+/// Returns the property that the check of a pattern violates, or nothing.
 ///
 /// @param pattern  valid UTF-8
 inline std::string checkViolation(std::string_view pattern) {
     const SourceFile file("pattern", std::string(pattern));
     const PatternTree tree({&file, 0, file.text().size()});
     bool areTextsValid = true;
-    bool isSyntaxRight = true;
+    bool isSyntaxValid = true;
     for (const PatternText& text : tree.texts()) {
         if (const std::string violation = violationIn(tree, text); !violation.empty()) {
             return violation + ": " + std::string(text.text.text());
         }
-        isSyntaxRight &= text.errors.empty();
+        isSyntaxValid &= text.errors.empty();
         areTextsValid &= validUtf8Length(text.text.text()) == text.text.size();
     }
     Diagnostics diagnostics;
@@ -112,10 +112,10 @@ inline std::string checkViolation(std::string_view pattern) {
             return "each place is in the pattern";
         }
     }
-    if (hasSyntax == isSyntaxRight) {
-        return "each error is reported, and no other";
+    if (hasSyntax == isSyntaxValid) {
+        return "errors are reported, and nothing else as an error";
     }
-    return areTextsValid || hasEncoding ? "" : "each text that is not UTF-8 is reported";
+    return areTextsValid || hasEncoding ? "" : "texts that are not UTF-8 are reported";
 }
 
 } // namespace zem::msglib::tool

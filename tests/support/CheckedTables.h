@@ -1,9 +1,10 @@
 #pragma once
 
-// The example tables of the documentation, which tests hold true.
+// Reads the example tables of the documentation, which tests check against the library.
 //
 // A line `<!-- checked: kind -->` marks the table after it. The first three columns are a pattern,
-// the arguments, and what comes out: text in code quotes, the word nothing, or `fails: ` and words.
+// the arguments and the result: text in code quotes, the word nothing, or `fails: ` and the text of
+// the failure.
 
 #include <boost/algorithm/string.hpp>
 
@@ -25,7 +26,7 @@ inline std::vector<std::string> cellsOf(const std::string& row) {
     return cells;
 }
 
-/// Returns a cell without its code quotes, with the bytes that it writes as "\\xA4".
+/// Returns a cell without its code quotes, with escapes such as "\\xA4" replaced by their bytes.
 inline std::string bytesOf(const std::string& cell) {
     std::string text = cell == "nothing" ? "" : boost::erase_all_copy(cell, "`");
     for (std::size_t at = 0; (at = text.find("\\x", at)) != std::string::npos; ++at) {
@@ -38,8 +39,8 @@ inline std::string bytesOf(const std::string& cell) {
 /// A row of a marked table.
 struct CheckedRow {
     int line;
-    std::string section; ///< the heading above
-    std::string kind;    ///< what the mark says
+    std::string section; ///< the heading before the table
+    std::string kind;    ///< the kind in the mark
     std::vector<std::string> cells;
 };
 

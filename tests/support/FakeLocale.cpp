@@ -43,7 +43,7 @@ bool isDateValue(std::uint32_t lctype) {
 
 } // namespace
 
-// A failure leaves rubbish behind, so that whoever doesn't look at the result reads it.
+// A failure fills the buffer, so that code that ignores the result reads wrong digits.
 int GetLocaleInfoA(std::uint32_t locale, std::uint32_t lctype, char* buffer, int size) noexcept {
     EXPECT_EQ(locale, localeIdentifier);
     EXPECT_EQ(size, isDateValue(lctype) ? 81 : 64);

@@ -9,13 +9,14 @@ namespace zem::msglib {
 /// Locale values by the number of their query.
 using LocaleValues = std::map<std::uint32_t, std::string>;
 
-/// Stands in for the platform's locale values, one at a time, and checks how it is asked.
+/// Replaces the platform's locale values and checks the arguments of every query. At most one
+/// object exists at a time.
 struct FakeLocale {
-    /// Starts with those of an English locale with another currency, but for `changes`.
+    /// Begins with the values of an English locale with another currency, except for `changes`.
     explicit FakeLocale(const LocaleValues& changes = {});
 
-    static inline LocaleValues values;   ///< a query for anything else fails
-    static inline bool installed = true; ///< what the platform says of the locale
+    static inline LocaleValues values;   ///< every other query fails
+    static inline bool installed = true; ///< whether the platform has the locale
 };
 
 } // namespace zem::msglib

@@ -6,7 +6,7 @@
 namespace zem::msglib {
 namespace {
 
-/// Puts a locale in force that writes 1.234,5 if MSGLIB_TEST_LOCALE is "hostile".
+/// Makes a locale global that writes 1.234,5, if MSGLIB_TEST_LOCALE is "hostile".
 class HostileEnvironment : public testing::Environment {
     void SetUp() override {
         const char* wanted = std::getenv("MSGLIB_TEST_LOCALE");
@@ -16,7 +16,7 @@ class HostileEnvironment : public testing::Environment {
     }
 };
 
-// The test framework owns it.
+// Owned by the test framework.
 const testing::Environment* const environment =
     testing::AddGlobalTestEnvironment(new HostileEnvironment);
 

@@ -1,54 +1,58 @@
 #pragma once
 
 #include "support/PlainPowers.h"
+#include "support/RoundedArithmetic.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <string>
 
 namespace zem::msglib {
 
-/// A decimal pattern in fields, with the usual symbols, and a second reading of how a number is
-/// written by it.
+/// A decimal pattern in fields, with the default symbols, and a second implementation of the text
+/// of a number, to compare the library with.
 ///
-/// It goes one step after the other without a thought for speed, so that the library's own way can
-/// be compared with it.
+/// Every binary64 operation is computed in whole numbers of any size and rounded once, and the text
+/// is put together from finished parts. So it shares neither the arithmetic nor the steps of the
+/// library.
 struct PlainDecimal {
     std::string prefix, suffix, negativePrefix, negativeSuffix;
     int multiplier;
-    int groupingSize; ///< 0 for no grouping
+    int groupingSize; ///< 0 without grouping
     int minimumIntegerDigits;
     int minimumFractionDigits;
     int maximumFractionDigits;
-    int minimumExponentDigits; ///< below 0 for no exponent
+    int minimumExponentDigits; ///< negative without exponent
 
     /// Returns the text of `value`.
-    std::string text(double value) const;
+    ///
+    /// @param steps  by how many doubles the quotient by a power of ten below all doubles differs
+    ///               from the nearest one: the last bits of that quotient may vary
+    std::string text(double value, int steps = 0) const;
+
+    /// Returns whether `text` is the text of `value`, for any of the two next such quotients on
+    /// both sides.
+    bool isText(const std::string& text, double value) const;
 
 private:
-    std::string magnitudeText(double x) const;
+    std::string magnitudeText(double x, int steps) const;
+    std::string wholeText(double whole) const;
     std::string fractionText(double fraction) const;
+    std::string exponentText(int exponent) const;
 };
 
-// Writes a whole number digit by digit, each in front of the one before it.
-inline std::string wholeText(double whole, int minimumDigits, int groupingSize) {
-    std::string text;
-    for (int i = 0; whole > 0.0 || i < minimumDigits; ++i) {
-        const int digit = static_cast<int>(std::fmod(whole, 10.0));
-        whole = std::floor(whole / 10.0);
-        if (groupingSize > 0 && i > 0 && i % groupingSize == 0) {
-            text.insert(0, ",");
-        }
-        text.insert(text.begin(), static_cast<char>('0' + digit));
-    }
-    return text;
+/// Returns `digits` with leading zeros up to `minimum` digits.
+inline std::string withLeadingZeros(const std::string& digits, int minimum) {
+    const int missing = minimum - static_cast<int>(digits.size());
+    return std::string(static_cast<std::size_t>(missing > 0 ? missing : 0), '0') + digits;
 }
 
-inline std::string PlainDecimal::text(double value) const {
+inline std::string PlainDecimal::text(double value, int steps) const {
     if (std::isnan(value)) {
         return "1.#NaN";
     }
-    const std::string magnitude = magnitudeText(std::fabs(value) * multiplier);
+    const std::string magnitude = magnitudeText(std::fabs(value), steps);
     if (!(value < 0.0)) {
         return prefix + magnitude + suffix;
     }
@@ -57,7 +61,17 @@ inline std::string PlainDecimal::text(double value) const {
            (negativeSuffix.empty() ? suffix : negativeSuffix);
 }
 
-inline std::string PlainDecimal::magnitudeText(double x) const {
+inline bool PlainDecimal::isText(const std::string& text, double value) const {
+    for (const int steps : {0, 1, -1, 2, -2}) {
+        if (text == this->text(value, steps)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+inline std::string PlainDecimal::magnitudeText(double x, int steps) const {
+    x = std::isinf(x) ? x : roundedProduct(x, multiplier);
     if (std::isinf(x)) {
         return "1.#INF";
     }
@@ -66,36 +80,60 @@ inline std::string PlainDecimal::magnitudeText(double x) const {
         exponent = plainDecimalExponent(x);
         exponent += minimumIntegerDigits > 0 ? 1 - minimumIntegerDigits : 0;
         const double power = plainPowerOfTen(exponent);
-        x = power > 0.0 ? x / power : x * 1e300 / plainPowerOfTen(exponent + 300);
+        if (power > 0.0) {
+            x = roundedQuotient(x, power);
+        } else {
+            x = roundedQuotientByPowerOfTen(x, exponent);
+            for (int step = 0; step < std::abs(steps); ++step) {
+                x = std::nextafter(x, steps > 0 ? HUGE_VAL : 0.0);
+            }
+        }
     }
-    x += plainPowerOfTen(-maximumFractionDigits - 1) * 5.0;
-    const double whole = std::floor(x);
-    std::string text =
-        wholeText(whole, minimumIntegerDigits, groupingSize) + fractionText(x - whole);
-    if (minimumExponentDigits >= 0) {
-        text += exponent < 0 ? "E-" : "E";
-        text += wholeText(std::abs(exponent), minimumExponentDigits, 0);
+    x = roundedSum(x, roundedProduct(plainPowerOfTen(-maximumFractionDigits - 1), 5.0));
+    if (std::isinf(x)) {
+        return "1.#INF";
     }
-    return text;
+    double whole = 0.0;
+    const double fraction = std::modf(x, &whole);
+    return wholeText(whole) + fractionText(fraction) + exponentText(exponent);
+}
+
+// Above 2 to the power 53 the quotients are rounded, by definition.
+inline std::string PlainDecimal::wholeText(double whole) const {
+    std::string digits;
+    for (; whole >= 0x1p53; whole = std::floor(roundedQuotient(whole, 10.0))) {
+        digits.insert(0, std::to_string(static_cast<int>(std::fmod(whole, 10.0))));
+    }
+    if (whole > 0.0) {
+        digits.insert(0, std::to_string(static_cast<long long>(whole)));
+    }
+    digits = withLeadingZeros(digits, minimumIntegerDigits);
+    if (groupingSize > 0) {
+        for (int at = static_cast<int>(digits.size()) - groupingSize; at > 0; at -= groupingSize) {
+            digits.insert(static_cast<std::size_t>(at), ",");
+        }
+    }
+    return digits;
 }
 
 inline std::string PlainDecimal::fractionText(double fraction) const {
-    std::string text;
-    int zeros = 0;
-    for (int k = 0; k < maximumFractionDigits; ++k) {
-        if (fraction == 0.0 && k >= minimumFractionDigits) {
-            break;
-        }
-        fraction *= 10.0;
-        const int digit = static_cast<int>(fraction);
-        zeros = digit == 0 ? zeros + 1 : 0;
-        text.push_back(static_cast<char>('0' + digit));
-        fraction -= std::floor(fraction);
+    std::string digits;
+    for (int count = 0; count < maximumFractionDigits; ++count) {
+        double digit = 0.0;
+        fraction = std::modf(roundedProduct(fraction, 10.0), &digit);
+        digits += std::to_string(static_cast<int>(digit));
     }
-    const int written = static_cast<int>(text.size());
-    const int cut = std::min(written - minimumFractionDigits, zeros);
-    text.resize(static_cast<std::size_t>(written - std::max(cut, 0)));
-    return text.empty() ? text : "." + text;
+    const std::size_t significant = digits.find_last_not_of('0') + 1;
+    digits.resize(std::max(significant, static_cast<std::size_t>(minimumFractionDigits)));
+    return digits.empty() ? digits : "." + digits;
+}
+
+inline std::string PlainDecimal::exponentText(int exponent) const {
+    if (minimumExponentDigits < 0) {
+        return "";
+    }
+    const std::string digits = exponent == 0 ? "" : std::to_string(std::abs(exponent));
+    return (exponent < 0 ? "E-" : "E") + withLeadingZeros(digits, minimumExponentDigits);
 }
 
 } // namespace zem::msglib

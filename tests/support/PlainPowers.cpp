@@ -29,7 +29,7 @@ double plainPowerOfTen(int exponent) {
 }
 
 int plainDecimalExponent(double x) {
-    // The last bits of a logarithm decide beside whole quotients only.
+    // The last bits of the logarithms matter only next to whole quotients.
     const double quotient = std::log(x) / std::log(10.0);
     if (std::fabs(quotient - std::round(quotient)) > 1e-9) {
         return static_cast<int>(std::floor(quotient));

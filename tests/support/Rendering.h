@@ -11,14 +11,14 @@
 
 namespace zem::msglib {
 
-/// A row of a table: a pattern and what is expected of it.
+/// A row of a table: a pattern and its expected result.
 struct PatternCase {
     int line;
     const char* pattern;
     const char* expected;
 };
 
-/// Returns `mark` and the words that `operation` fails with, or nothing if it succeeds.
+/// Returns `mark` and the text of the failure of `operation`, or nothing if it succeeds.
 template <class Operation>
 std::string failureOf(const Operation& operation, const std::string& mark = "") {
     try {
@@ -29,9 +29,9 @@ std::string failureOf(const Operation& operation, const std::string& mark = "") 
     return "";
 }
 
-/// Renders behind bytes that are already there, which have to stay and change nothing.
+/// Renders into a string that isn't empty; its bytes must be kept and must not affect the text.
 ///
-/// Returns the text, and behind it "!" and the words of the failure if there is one.
+/// Returns the text, followed by "!" and the text of the failure if there is one.
 template <class Formatter, class Value>
 std::string textOf(const Formatter& formatter, const Value& value) {
     const std::string kept = "kept 1,234.5 {0}'";
@@ -42,15 +42,15 @@ std::string textOf(const Formatter& formatter, const Value& value) {
     return out.substr(kept.size()) + failure;
 }
 
-/// Numbers with a decimal comma, and a point in front of each two digits.
+/// Numbers with a decimal comma and a point before every two digits.
 class CommaForms : public std::numpunct<char> {
     char do_decimal_point() const override { return ','; }
     char do_thousands_sep() const override { return '.'; }
     std::string do_grouping() const override { return "\2"; }
 };
 
-/// A formatter as one text: its digit limits but for the usual 309, "," if it groups, and the texts
-/// of three values.
+/// Returns a formatter as one text: its digit limits except the default 309, "," if it groups, and
+/// the texts of three values.
 inline std::string dump(const NumberFormat& format) {
     std::ostringstream text;
     text << format.getMinimumIntegerDigits();

@@ -1,4 +1,4 @@
-// Overwrites the memory that a program gives back, so that whoever reads it later reads nonsense.
+// Overwrites memory when it is released, so that a later read finds invalid data.
 
 #include <algorithm>
 #include <cstdlib>
@@ -17,7 +17,7 @@ void operator delete(void* block) noexcept {
 
 void operator delete(void* block, std::size_t size) noexcept {
     if (block != nullptr) {
-        // Plain bytes would not be written, since nobody may read them.
+        // The compiler would omit plain writes to memory that is about to be released.
         std::fill_n(static_cast<volatile unsigned char*>(block), size, 0xDD);
     }
     std::free(block);

@@ -5,8 +5,8 @@
 
 namespace zem::msglib {
 
-/// Tells whether this program runs under Wine, some of whose operations differ from what the
-/// operating system publishes.
+/// Returns whether this program runs under Wine, where some operations differ from the
+/// documentation of the operating system.
 inline bool runsUnderWine() {
     std::error_code error;
     const boost::dll::shared_library system("ntdll.dll", error,

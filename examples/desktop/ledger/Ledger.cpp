@@ -10,7 +10,7 @@ void start() {
 
 std::string statement(const std::string& account, long long time,
                       const std::vector<Transaction>& transactions) {
-    // Every message that is streamed in comes after the one before it.
+    // Each message that is streamed is appended to those before it.
     auto text = LedgerMessages::MSG_STATEMENT(account, time);
     double balance = 0.0;
     for (const Transaction& each : transactions) {

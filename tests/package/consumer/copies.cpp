@@ -1,5 +1,6 @@
-// Copies, moves, assigns and destroys values of every class some thousand times. Where the library
-// has a C++ run-time library of its own, one that mixed the two would miscount what they share.
+// Copies, moves, assigns and destroys values of every class some thousand times. If the library
+// contains its own C++ run-time library, mixing the two would break reference counts that they
+// share.
 
 #include <msglib/ChoiceFormat.h>
 #include <msglib/DecimalFormat.h>
@@ -34,8 +35,8 @@ void exercise(const Value& value) {
     }
 }
 
-// Returns how often the locale's parts are referred to, as GNU's run-time library counts it in the
-// first word of what a locale points to.
+// Returns the reference count of the locale's parts, which GNU's run-time library keeps in the
+// first word that a locale points to.
 int references(const std::locale& locale) {
     int count = 0;
 #if defined(__GLIBCXX__)
@@ -55,14 +56,14 @@ std::string shown(const boost::any& argument, zem::msglib::Format& format) {
 int main() {
     using namespace zem::msglib;
     std::ios_base::sync_with_stdio(false);
-    ChoiceFormat choice("0#a text longer than a string keeps in itself|1#one");
+    ChoiceFormat choice("0#a text too long for the string object itself|1#one");
     DecimalFormatSymbols symbols;
-    DecimalFormat decimal("'a prefix longer than a string keeps in itself '#,##0.00", symbols);
+    DecimalFormat decimal("'a prefix too long for the string object itself '#,##0.00", symbols);
     MessageFormat message("{0,number,currency} {1,date,yyyy}, {2,choice,0#none|1#one}");
     MessageFormatStream stream("{0}");
     SimpleDateFormat date("yyyy-MM-dd 'at' HH:mm:ss", std::locale::classic());
     const int before = references(std::locale::classic());
-    stream << "an argument longer than a string keeps in itself";
+    stream << "an argument too long for the string object itself";
     exercise(choice);
     exercise(symbols);
     exercise(decimal);
@@ -70,7 +71,7 @@ int main() {
     exercise(stream);
     exercise(date);
     for (int round = 0; round < rounds; ++round) {
-        const std::unique_ptr<NumberFormat> made(NumberFormat::getNumberInstance(std::locale()));
+        const std::unique_ptr<NumberFormat> format(NumberFormat::getNumberInstance(std::locale()));
     }
     std::string text;
     const std::list<boost::any> arguments = {9.5, 0, 1};

@@ -1,4 +1,4 @@
-// Hands an argument of every kind over to the library, and takes a failure back.
+// Passes an argument of every kind to the library and catches a failure.
 
 #include <geom/Angle.h>
 #include <msglib/MessageFormat.h>

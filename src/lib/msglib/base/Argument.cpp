@@ -36,7 +36,7 @@ ArgumentKind kindOf(const boost::any& argument) noexcept {
             return row.kind;
         }
     }
-    // Another module may have a type identity of its own for the same type.
+    // Another module may have its own `type_info` object for the same type.
     for (const KindOfType& row : kindsOfTypes) {
         if (held == *row.type) {
             return row.kind;

@@ -13,7 +13,7 @@
 
 namespace zem::msglib {
 
-/// The exact type that an argument holds, as far as any formatter reads it.
+/// The exact type that an argument holds, among those that formatters accept.
 enum class ArgumentKind : std::uint8_t {
     Text,
     Short,
@@ -31,13 +31,13 @@ enum class ArgumentKind : std::uint8_t {
     Other,
 };
 
-/// Tells the kind of `argument`; `Other` for the empty `any` too.
+/// Returns the kind of `argument`, which is `Other` for an empty `any`.
 ArgumentKind kindOf(const boost::any& argument) noexcept;
 
-/// What a visitor of arguments gets in place of a value of kind `Other`.
+/// What visitors are called with for an argument of the kind `Other`.
 struct UnknownKind {};
 
-/// Returns `value`, which has to fit into 32 bits, the width of `long` in this library.
+/// Returns `value` if it fits into 32 bits, the width of `long` in this library.
 ///
 /// @throws std::out_of_range if it doesn't
 template <class Long>
@@ -54,13 +54,13 @@ Long checkedLong(Long value) {
     return value;
 }
 
-/// Reads a value in place, whose type `kindOf` has told.
+/// Returns the value that `argument` holds, of the type that `kindOf` has found.
 template <class Value>
 const Value& heldValue(const boost::any& argument) noexcept {
     return *boost::unsafe_any_cast<Value>(&argument);
 }
 
-/// Calls `visitor` with the value that `argument` holds, in its own type, or with `UnknownKind`.
+/// Calls `visitor` with the value that `argument` holds, in its exact type, or with `UnknownKind`.
 ///
 /// @throws std::out_of_range for a `long` or `unsigned long` outside its 32-bit range
 template <class Visitor>

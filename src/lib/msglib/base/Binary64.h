@@ -1,8 +1,8 @@
 #pragma once
 
 // Every digit follows from single operations of plain binary64 arithmetic, so sources that compute
-// with doubles include this. It refuses what macros and constants show of other arithmetic. Some
-// compilers have options that show nowhere; cmake/PlainArithmetic.cpp looks for their effects.
+// with doubles include this header. It rejects compiler options that macros and constants reveal;
+// cmake/PlainArithmetic.cpp tests for the effects of those that nothing reveals.
 
 #include <cfloat>
 #include <limits>
@@ -13,7 +13,7 @@
 #endif
 
 #if FLT_EVAL_METHOD != 0
-#error "msglib needs plain binary64 arithmetic: on x86 it takes -msse2 -mfpmath=sse"
+#error "msglib needs plain binary64 arithmetic: on x86, compile with -msse2 -mfpmath=sse"
 #endif
 
 static_assert(std::numeric_limits<double>::is_iec559 && std::numeric_limits<double>::digits == 53,

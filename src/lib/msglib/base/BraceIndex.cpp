@@ -7,7 +7,7 @@
 namespace zem::msglib {
 
 BraceIndex::BraceIndex(std::string_view text) {
-    std::vector<std::size_t> open; // the pairs that have not closed yet
+    std::vector<std::size_t> open; // indexes of the pairs without a closing brace yet
     for (std::size_t position = 0; (position = findSyntax(text, position, '}')) < text.size();
          ++position) {
         const char* const brace = text.data() + position;

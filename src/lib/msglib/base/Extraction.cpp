@@ -23,13 +23,13 @@ std::size_t readDigits(std::string_view text, std::size_t position, int& value) 
 
 namespace {
 
-// Reads plain digits if there is nothing else.
+// Reads a text that consists of plain digits.
 bool readWhole(std::string_view text, int& value) noexcept {
     const std::size_t digits = readDigits(text, 0, value);
     return digits > 0 && digits == text.size();
 }
 
-// Extraction reports a failed allocation as a bad stream, unless it is told to let it through.
+// Without the exception mask, extraction reports a failed allocation as a bad stream.
 template <class Number>
 bool extract(std::string_view text, Number& number) {
     std::istringstream stream{std::string(text)};

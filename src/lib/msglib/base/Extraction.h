@@ -5,23 +5,23 @@
 
 namespace zem::msglib {
 
-/// Reads the decimal digits from `position` on into `value`, at most nine, which any `int` holds.
+/// Reads the decimal digits from `position` on into `value`: at most nine, which every `int` holds.
 ///
-/// @return how many there are; `value` is unchanged if there are none or more than nine
+/// @return the number of digits, or 0, with `value` unchanged, for none and for more than nine
 std::size_t readDigits(std::string_view text, std::size_t position, int& value) noexcept;
 
-/// Reads the number that `text` begins with exactly as formatted extraction from a stream would, by
-/// the global `std::locale`: leading white space is skipped, and what follows the number is
-/// ignored.
+/// Reads the number at the beginning of `text` exactly as formatted extraction from a stream does,
+/// with the global `std::locale`: leading white space is skipped, and everything after the number
+/// is ignored.
 ///
-/// A text of one to nine ASCII digits and nothing else is their decimal value under every locale. A
-/// stream reads another one only if a facet of the global locale redefines plain digits.
+/// One to nine ASCII digits without anything else have their decimal value under every locale. A
+/// stream differs only if a facet of the global locale redefines plain digits.
 ///
-/// @return whether there is a number in the range of `int`; `value` is unchanged if not
+/// @return whether `text` begins with a number in the range of `int`; `value` is unchanged if not
 bool extractInt(std::string_view text, int& value);
 
-/// The same for a `double`; what extraction leaves in a variable that was 0.0, if there is no
-/// number.
+/// Reads a `double` in the same way. Without a number, returns what extraction leaves in a variable
+/// that was 0.0.
 double extractDouble(std::string_view text);
 
 } // namespace zem::msglib

@@ -4,7 +4,7 @@ namespace zem::msglib {
 
 namespace {
 
-const char* wordsOf(Failure failure) noexcept {
+const char* messageOf(Failure failure) noexcept {
     switch (failure) {
     case Failure::InvalidMessageId: return "Invalid message ID";
     case Failure::UnconvertibleMessage: return "Unable to convert message string";
@@ -32,16 +32,16 @@ const char* wordsOf(Failure failure) noexcept {
 } // namespace
 
 void raise(Failure failure) {
-    const char* words = wordsOf(failure);
+    const char* message = messageOf(failure);
     switch (failure) {
-    case Failure::AddressInNoModule: throw std::invalid_argument(words);
-    case Failure::LongOutOfRange: throw std::out_of_range(words);
-    default: throw std::runtime_error(words);
+    case Failure::AddressInNoModule: throw std::invalid_argument(message);
+    case Failure::LongOutOfRange: throw std::out_of_range(message);
+    default: throw std::runtime_error(message);
     }
 }
 
 void raise(Failure failure, std::size_t position) {
-    throw PatternFailure(wordsOf(failure), position);
+    throw PatternFailure(messageOf(failure), position);
 }
 
 } // namespace zem::msglib

@@ -6,7 +6,7 @@
 
 namespace zem::msglib {
 
-/// Everything that the library itself can fail with. Its fixed English words stand behind `raise`.
+/// All failures that the library itself reports. `raise` has their fixed English texts.
 enum class Failure : std::uint8_t {
     InvalidMessageId,
     UnconvertibleMessage,
@@ -28,27 +28,27 @@ enum class Failure : std::uint8_t {
     LongOutOfRange,
 };
 
-/// A failure to read a pattern, for tools that point at it. Callers of the library see no more than
-/// a `std::runtime_error`.
+/// A syntax error in a pattern, with its position for tools. Callers of the library only see a
+/// `std::runtime_error`.
 class PatternFailure : public std::runtime_error {
 public:
-    PatternFailure(const char* words, std::size_t position)
-        : std::runtime_error(words),
+    PatternFailure(const char* message, std::size_t position)
+        : std::runtime_error(message),
           position_(position) {}
 
-    /// Returns the position in the pattern at which reading stopped; its size at the end.
+    /// Returns the position in the pattern at which parsing stopped, at most its size.
     std::size_t position() const noexcept { return position_; }
 
 private:
     std::size_t position_;
 };
 
-/// Throws the exception of `failure` with its words: `std::invalid_argument` for
+/// Throws the exception of `failure` with its text: `std::invalid_argument` for
 /// `AddressInNoModule`, `std::out_of_range` for `LongOutOfRange` and `std::runtime_error` for every
 /// other.
 [[noreturn]] void raise(Failure failure);
 
-/// Throws a `PatternFailure` with the words of `failure`.
+/// Throws a `PatternFailure` with the text of `failure`.
 [[noreturn]] void raise(Failure failure, std::size_t position);
 
 } // namespace zem::msglib

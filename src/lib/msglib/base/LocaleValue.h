@@ -8,12 +8,12 @@
 
 namespace zem::msglib {
 
-/// One value of the platform's fixed locale, in a buffer of `Size` bytes. A failed query reads as
-/// the empty text.
+/// One value of the platform's fixed locale, in a buffer of `Size` bytes. After a failed query, the
+/// text is empty.
 template <int Size>
 class LocaleValue {
 public:
-    /// Asks the platform for the value `lctype`.
+    /// Queries the value `lctype`.
     explicit LocaleValue(std::uint32_t lctype) noexcept
         : length_(platform::GetLocaleInfoA(platform::localeIdentifier, lctype, buffer_, Size) - 1) {
         if (!found()) {
@@ -21,15 +21,15 @@ public:
         }
     }
 
-    /// Tells whether the platform had the value.
+    /// Returns whether the platform has the value.
     bool found() const noexcept { return length_ >= 0; }
 
-    /// Returns the bytes in front of the terminator. They live as long as this object.
+    /// Returns the bytes before the terminator, which are valid as long as this object.
     std::string_view text() const noexcept {
         return {buffer_, static_cast<std::size_t>(found() ? length_ : 0)};
     }
 
-    /// The same as a C string.
+    /// Returns the text as a C string.
     const char* c_str() const noexcept { return buffer_; }
 
     /// Returns the first byte, NUL for the empty text.

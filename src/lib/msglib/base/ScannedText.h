@@ -6,12 +6,12 @@
 
 namespace zem::msglib {
 
-/// A text as a reader hands it out, piece by piece. It borrows a single piece and joins several,
-/// as there are where quoting was resolved, in a copy of its own. Moving it leaves `text` where it
-/// is in memory.
+/// A sink for the pieces of a text that a reader delivers. A single piece is borrowed; several
+/// pieces, which occur where quoting was resolved, are joined in a copy. Moving the object doesn't
+/// move the bytes of `text`.
 class ScannedText {
 public:
-    /// Adds a piece.
+    /// Appends a piece.
     void operator()(std::string_view piece) {
         if (joined_ != nullptr) {
             joined_->append(piece);
@@ -23,7 +23,7 @@ public:
         }
     }
 
-    /// Returns the text, which lives as long as this object and what was scanned.
+    /// Returns the text, which is valid as long as this object and the scanned pattern.
     std::string_view text() const noexcept { return isCopy() ? *joined_ : first_; }
 
     /// Returns whether the text is a copy.

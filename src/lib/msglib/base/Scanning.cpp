@@ -8,12 +8,16 @@
 #include <emmintrin.h>
 #endif
 
+// `findSyntax` returns the first of four bytes in a text. Most texts between two syntax bytes are
+// short, so it compares the first bytes vector by vector (byte by byte on a processor without SSE2)
+// and uses `memchr`, which is faster on long texts, only after that.
+
 namespace zem::msglib {
 
 namespace {
 
-const char* findByBytes(const char* at, const char* end, char another) noexcept {
-    while (at != end && *at != quote && *at != '{' && *at != '}' && *at != another) {
+const char* findByBytes(const char* at, const char* end, char delimiter) noexcept {
+    while (at != end && *at != quote && *at != '{' && *at != '}' && *at != delimiter) {
         ++at;
     }
     return at;
@@ -23,47 +27,48 @@ const char* findByBytes(const char* at, const char* end, char another) noexcept 
 
 constexpr std::ptrdiff_t vectorSize = 16;
 
-// Returns a bit for each byte of a vector, the lowest for the first, that is set for syntax.
-unsigned int syntaxIn(const char* vector, char another) noexcept {
+// Returns a mask with a bit for each byte of a vector, the lowest for the first. Syntax bytes have
+// theirs set.
+unsigned int syntaxIn(const char* vector, char delimiter) noexcept {
     const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(vector));
     const auto are = [bytes](char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
     const __m128i found =
-        _mm_or_si128(_mm_or_si128(are('{'), are('}')), _mm_or_si128(are(quote), are(another)));
+        _mm_or_si128(_mm_or_si128(are('{'), are('}')), _mm_or_si128(are(quote), are(delimiter)));
     return static_cast<unsigned int>(_mm_movemask_epi8(found));
 }
 
-// Finds the first syntax of a text from `at` on. What is no whole vector at its end is part of one
-// that begins earlier.
-const char* findIn(std::string_view text, const char* at, const char* end, char another) noexcept {
+// Finds the first syntax byte from `at` on. The last bytes, fewer than a vector, are compared in a
+// vector that begins earlier.
+const char* findIn(std::string_view text, const char* at, const char* end,
+                   char delimiter) noexcept {
     for (; end - at >= vectorSize; at += vectorSize) {
-        if (const unsigned int found = syntaxIn(at, another)) {
+        if (const unsigned int found = syntaxIn(at, delimiter)) {
             return at + __builtin_ctz(found);
         }
     }
     if (end - text.data() < vectorSize) {
-        return findByBytes(at, end, another);
+        return findByBytes(at, end, delimiter);
     }
-    const unsigned int found = syntaxIn(end - vectorSize, another) >> (vectorSize - (end - at));
+    const unsigned int found = syntaxIn(end - vectorSize, delimiter) >> (vectorSize - (end - at));
     return found != 0 ? at + __builtin_ctz(found) : end;
 }
 
 #else
 
-const char* findIn(std::string_view, const char* at, const char* end, char another) noexcept {
-    return findByBytes(at, end, another);
+const char* findIn(std::string_view, const char* at, const char* end, char delimiter) noexcept {
+    return findByBytes(at, end, delimiter);
 }
 
 #endif
 
-// Finds the first syntax of a long text, one byte after the other, as the C library does it
-// fastest. What is found for one byte is the end for the next, and windows keep rare ones from
-// being looked for far away.
+// Finds the first syntax byte of a long text by one `memchr` for each of the four. A match for one
+// byte is the end of the search for the next. Windows limit how far it searches for a rare byte.
 [[gnu::noinline]] const char* findByWindows(const char* at, const char* end,
-                                            char another) noexcept {
+                                            char delimiter) noexcept {
     constexpr std::ptrdiff_t windowSize = 8192;
-    const char bytes[] = {quote, '{', '}', another};
-    const bool isSyntaxAnyway = another == quote || another == '}';
-    const char* const lastByte = std::end(bytes) - (isSyntaxAnyway ? 1 : 0);
+    const char bytes[] = {quote, '{', '}', delimiter};
+    const bool isDuplicate = delimiter == quote || delimiter == '}';
+    const char* const lastByte = std::end(bytes) - (isDuplicate ? 1 : 0);
     while (at != end) {
         const char* const windowEnd = at + std::min(windowSize, end - at);
         const char* found = windowEnd;
@@ -81,15 +86,14 @@ const char* findIn(std::string_view, const char* at, const char* end, char anoth
 
 } // namespace
 
-// Most texts between two marks are short, so windows pay only after some bytes.
-std::size_t findSyntax(std::string_view text, std::size_t position, char another) noexcept {
+std::size_t findSyntax(std::string_view text, std::size_t position, char delimiter) noexcept {
     constexpr std::ptrdiff_t shortText = 128;
     const char* const end = text.data() + text.size();
     const char* const begin = text.data() + position;
     const char* const soon = begin + std::min(shortText, end - begin);
-    const char* at = findIn(text, begin, soon, another);
+    const char* at = findIn(text, begin, soon, delimiter);
     if (at == soon && soon != end) {
-        at = findByWindows(soon, end, another);
+        at = findByWindows(soon, end, delimiter);
     }
     return static_cast<std::size_t>(at - text.data());
 }

@@ -2,21 +2,21 @@
 
 namespace zem::msglib {
 
-void TextOutput::cutTo(std::size_t size) {
+void TextOutput::truncate(std::size_t size) {
     if (size < out_.size()) {
         out_.resize(size);
     }
-    end_ = gathered_ + (size - out_.size());
+    end_ = buffer_ + (size - out_.size());
 }
 
-void TextOutput::finish() {
-    out_ += gathered();
-    end_ = gathered_;
+void TextOutput::flush() {
+    out_ += buffered();
+    end_ = buffer_;
 }
 
-// Not inline, since every call of `append` would have to make room for it.
-[[gnu::noinline]] void TextOutput::appendBeyond(std::string_view text) {
-    finish();
+// Not inline: every caller of `append` would grow by it.
+[[gnu::noinline]] void TextOutput::appendUnbuffered(std::string_view text) {
+    flush();
     out_ += text;
 }
 

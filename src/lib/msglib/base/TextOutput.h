@@ -7,71 +7,70 @@
 
 namespace zem::msglib {
 
-/// Text on its way into a string, which it borrows: it gathers here, so that short pieces cost
-/// neither a call nor a look at the string each. `finish` appends what has gathered, and nothing
-/// else does so at the end.
+/// Appends text to a string, which it borrows, through a buffer: a short piece costs neither a call
+/// nor an access to the string. The destructor doesn't flush; the user calls `flush` at the end.
 class TextOutput {
 public:
-    /// How much `room` can make at once.
-    static constexpr std::size_t largestRoom = 512;
+    /// The most bytes that `reserve` provides at once.
+    static constexpr std::size_t bufferSize = 512;
 
     explicit TextOutput(std::string& out) noexcept : out_(out) {}
     TextOutput(const TextOutput&) = delete;
     TextOutput& operator=(const TextOutput&) = delete;
 
-    /// Lets `write(TextOutput&)` append to `out`, and returns `out`. If it throws, what came before
-    /// that is appended.
+    /// Calls `write(TextOutput&)`, flushes and returns `out`. If `write` throws, the bytes before
+    /// that are appended.
     template <class Write>
     static std::string& to(std::string& out, Write write);
 
     /// Appends one byte.
     void append(char byte) {
-        *room(1) = byte;
+        *reserve(1) = byte;
         ++end_;
     }
 
-    /// Appends `text`, which must not lie in the string.
+    /// Appends `text`, which must not be part of the string.
     void append(std::string_view text) {
-        if (text.size() > left()) {
-            appendBeyond(text);
+        if (text.size() > available()) {
+            appendUnbuffered(text);
             return;
         }
         copy(text, end_);
         end_ += text.size();
     }
 
-    /// Returns where the next bytes go, with room for `size` of them, at most `largestRoom`.
-    char* room(std::size_t size) {
-        if (size > left()) {
-            finish();
+    /// Returns where the next bytes go, with space for `size` of them, at most `bufferSize`.
+    char* reserve(std::size_t size) {
+        if (size > available()) {
+            flush();
         }
         return end_;
     }
 
-    /// Counts the bytes that have been written up to `end`, from what `room` returned last.
+    /// Appends the bytes from what `reserve` returned last to `end`, which are already written.
     void advanceTo(char* end) noexcept { end_ = end; }
 
-    /// Returns the length of the string with what has gathered.
-    std::size_t size() const noexcept { return out_.size() + gathered().size(); }
+    /// Returns the size of the string with the buffered bytes.
+    std::size_t size() const noexcept { return out_.size() + buffered().size(); }
 
-    /// Returns what has gathered, until the next change.
-    std::string_view gathered() const noexcept {
-        return {gathered_, static_cast<std::size_t>(end_ - gathered_)};
+    /// Returns the buffered bytes, which are valid until the next change.
+    std::string_view buffered() const noexcept {
+        return {buffer_, static_cast<std::size_t>(end_ - buffer_)};
     }
 
-    /// Takes the end away, down to an earlier `size`.
-    void cutTo(std::size_t size);
+    /// Removes everything after an earlier `size`.
+    void truncate(std::size_t size);
 
-    /// Appends what has gathered to the string.
-    void finish();
+    /// Appends the buffered bytes to the string.
+    void flush();
 
 private:
-    std::size_t left() const noexcept {
-        return static_cast<std::size_t>(gathered_ + largestRoom - end_);
+    std::size_t available() const noexcept {
+        return static_cast<std::size_t>(buffer_ + bufferSize - end_);
     }
-    void appendBeyond(std::string_view text);
+    void appendUnbuffered(std::string_view text);
 
-    // Short texts are copied as two words that may overlap: calling a function costs more.
+    // A short text is copied as two words, which may overlap: calling a function costs more.
     static void copy(std::string_view text, char* to) noexcept {
         if (text.size() > 16) {
             std::memcpy(to, text.data(), text.size());
@@ -96,8 +95,8 @@ private:
     }
 
     std::string& out_;
-    char* end_ = gathered_;
-    char gathered_[largestRoom];
+    char* end_ = buffer_;
+    char buffer_[bufferSize];
 };
 
 template <class Write>
@@ -106,10 +105,10 @@ std::string& TextOutput::to(std::string& out, Write write) {
     try {
         write(output);
     } catch (...) {
-        output.finish();
+        output.flush();
         throw;
     }
-    output.finish();
+    output.flush();
     return out;
 }
 

@@ -9,11 +9,15 @@
 #include <list>
 #include <utility>
 
+// A stream is an identifier or a pattern, a list of arguments and the text of the messages that
+// were joined before. Streaming a value copies it into the list. `toString` renders the message
+// through the message library or, for a pattern, directly, and appends it to the text.
+
 namespace zem::msglib {
 
 struct MessageFormatStream::Impl {
     unsigned int messageId_ = 0;
-    const char* pattern_ = nullptr; // borrowed; null: the identifier counts
+    const char* pattern_ = nullptr; // borrowed; null for a message by identifier
     std::list<boost::any> args_;
     std::string text_;
 
@@ -63,7 +67,7 @@ std::string MessageFormatStream::toString() const {
 }
 
 MessageFormatStream& MessageFormatStream::append(const MessageFormatStream& other) {
-    // Whatever fails comes before the first change. A stream joined to itself keeps its message.
+    // Everything that can fail comes before the first change.
     std::list<boost::any> args;
     if (this != &other) {
         args = other.impl_->args_;

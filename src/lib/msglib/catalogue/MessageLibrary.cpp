@@ -10,6 +10,11 @@
 #include <cstring>
 #include <stdexcept>
 
+// A rendering by identifier takes these steps: the facility's bits lead to the registered module,
+// the platform fetches the UTF-16 text from the module's message table, the text becomes UTF-8 with
+// LF as line end, and the message renderer renders that as a pattern. After the facility is found,
+// the text of any failure is the result.
+
 namespace zem::msglib {
 
 namespace {
@@ -24,7 +29,7 @@ struct FreeLocal {
     void operator()(char16_t* memory) const noexcept { platform::LocalFree(memory); }
 };
 
-// A text as the message table holds it.
+// A text in the encoding of the message table.
 struct TableText {
     std::unique_ptr<char16_t, FreeLocal> units;
     int count;
@@ -46,9 +51,9 @@ TableText fetchText(platform::HMODULE module, unsigned int messageId) {
 constexpr std::size_t shortText = 1024;
 using Utf8Text = boost::container::small_vector<char, shortText>;
 
-// Converts a text that surely becomes a short one in one pass, and measures any other first.
+// Converts in one pass if the result certainly fits the short buffer, and otherwise measures first.
 Utf8Text toUtf8(const TableText& text) {
-    constexpr std::size_t mostBytesPerUnit = 3;
+    constexpr std::size_t maxBytesPerUnit = 3;
     const auto convert = [&text](char* bytes, std::size_t size) {
         const int length =
             platform::WideCharToMultiByte(platform::CP_UTF8, 0, text.units.get(), text.count, bytes,
@@ -58,14 +63,14 @@ Utf8Text toUtf8(const TableText& text) {
         }
         return static_cast<std::size_t>(length);
     };
-    const bool isShort = static_cast<std::size_t>(text.count) <= shortText / mostBytesPerUnit;
+    const bool isShort = static_cast<std::size_t>(text.count) <= shortText / maxBytesPerUnit;
     Utf8Text bytes(isShort ? shortText : convert(nullptr, 0), boost::container::default_init);
     bytes.resize(convert(bytes.data(), bytes.size()));
     return bytes;
 }
 
-// Makes one byte of each line end of two.
-void shortenLineEnds(Utf8Text& text) {
+// Replaces each CR LF by LF.
+void normalizeLineEnds(Utf8Text& text) {
     char* const end = text.data() + text.size();
     auto* kept = static_cast<char*>(std::memchr(text.data(), '\r', text.size()));
     if (kept == nullptr) {
@@ -91,12 +96,12 @@ MessageLibrary::MessageLibrary()
 MessageLibrary::~MessageLibrary() = default;
 
 MessageLibrary& MessageLibrary::instance() {
-    // A static object would be destroyed before those that are older, which may still render.
+    // A static object would be destroyed before older static objects, which may still render.
     static MessageLibrary* const library = [] {
-        auto* const made = new MessageLibrary;
+        auto* const created = new MessageLibrary;
         platform::callAtUnload([](void* object) { delete static_cast<MessageLibrary*>(object); },
-                               made);
-        return made;
+                               created);
+        return created;
     }();
     return *library;
 }
@@ -123,7 +128,7 @@ std::string MessageLibrary::formatMessage(unsigned int messageId,
     }
     try {
         Utf8Text pattern = toUtf8(fetchText(facility->second, messageId));
-        shortenLineEnds(pattern);
+        normalizeLineEnds(pattern);
         return renderPattern({pattern.data(), pattern.size()}, args);
     } catch (const std::runtime_error& failure) {
         return failure.what();

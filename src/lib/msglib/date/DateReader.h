@@ -13,15 +13,15 @@ namespace zem::msglib {
 constexpr std::string_view dateLetters = "dMyg";
 constexpr std::string_view timeLetters = "hHmst";
 
-/// What a piece of a date pattern is.
+/// The kinds of pieces in a date pattern.
 enum class DatePiece : std::uint8_t {
-    Literal, ///< one byte that stands for itself
-    Quoted,  ///< quoted text, without the apostrophe that begins it
-    Date,    ///< a run of one letter, for the date
-    Time,    ///< a run of one letter, for the time
+    Literal, ///< one byte of plain text
+    Quoted,  ///< quoted text, without its opening apostrophe
+    Date,    ///< a run of one letter, a field of the date
+    Time,    ///< a run of one letter, a field of the time
 };
 
-/// What each byte outside of quoted text begins.
+/// The kind of piece that each byte begins outside quoted text.
 struct DatePieces {
     DatePiece of[UCHAR_MAX + 1];
 };
@@ -40,13 +40,14 @@ constexpr DatePieces datePiecesFor(std::string_view date, std::string_view time)
 
 constexpr DatePieces datePieces = datePiecesFor(dateLetters, timeLetters);
 
-/// Returns the quoted text from `position` on, with the apostrophe at its end if that is the first
-/// of two, which stand for one.
+/// Returns the quoted text from `position` on, up to its closing apostrophe. That is included if it
+/// is the first of two, which are one plain apostrophe.
 inline std::string_view quotedTextAt(std::string_view pattern, std::size_t position) noexcept {
     const std::size_t end = std::min(pattern.find(quote, position), pattern.size());
     return pattern.substr(position, end - position + (holdsAt(pattern, end + 1, quote) ? 1 : 0));
 }
 
+/// Returns the run of one letter that begins at `position`.
 inline std::string_view runAt(std::string_view pattern, std::size_t position) noexcept {
     std::size_t end = position + 1;
     while (holdsAt(pattern, end, pattern[position])) {
@@ -55,11 +56,11 @@ inline std::string_view runAt(std::string_view pattern, std::size_t position) no
     return pattern.substr(position, end - position);
 }
 
-/// Reads a date pattern in pieces, in their order.
+/// Reads a date pattern piece by piece. Takes linear time.
 ///
 /// @param sink  called with the kind of each piece and the piece, a part of the pattern. Quoted
-///              text with apostrophes comes in several pieces; text without an apostrophe at its
-///              end reaches to the end of the pattern
+///              text that contains apostrophes is delivered in several pieces; without a closing
+///              apostrophe it extends to the end of the pattern
 template <class Sink>
 void readDatePattern(std::string_view pattern, Sink&& sink) {
     for (std::size_t position = 0; position < pattern.size();) {
@@ -73,7 +74,7 @@ void readDatePattern(std::string_view pattern, Sink&& sink) {
             const std::string_view text = quotedTextAt(pattern, position + 1);
             const std::size_t end = position + 1 + text.size();
             sink(piece, text);
-            // Of two apostrophes, the second one begins quoted text again.
+            // The second of two apostrophes opens quoted text again.
             position = !text.empty() && text.back() == quote ? end : end + 1;
             break;
         }

@@ -8,7 +8,7 @@ namespace zem::msglib {
 
 class TextOutput;
 
-/// Appends `value` as a `SimpleDateFormat` of `pattern` writes it.
+/// Appends `value` as a `SimpleDateFormat` of `pattern` formats it.
 ///
 /// @throws what `SimpleDateFormat::format` throws; nothing is appended then
 void appendDate(std::string_view pattern, const boost::any& value, TextOutput& out);

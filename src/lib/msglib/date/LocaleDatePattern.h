@@ -9,18 +9,17 @@
 
 namespace zem::msglib {
 
-/// A date or time pattern by the platform's locale values. A value that the platform doesn't have
-/// is the empty pattern.
+/// A date or time pattern from the platform's locale values. It is empty if the platform lacks the
+/// value.
 class LocaleDatePattern {
 public:
-    /// Asks for the pattern of dates in `style`, which is empty for a value outside the
-    /// enumeration.
+    /// Queries the pattern of dates in `style`. It is empty for a value outside the enumeration.
     explicit LocaleDatePattern(DateFormat::Style style) noexcept;
 
-    /// Asks for the pattern of the time of day.
+    /// Queries the pattern of the time of day.
     static LocaleDatePattern time() noexcept;
 
-    /// Returns the pattern, which lives as long as this object.
+    /// Returns the pattern, which is valid as long as this object.
     std::string_view text() const noexcept { return value_ ? value_->text() : fixed_; }
 
 private:

@@ -10,10 +10,10 @@ namespace zem::msglib {
 
 namespace {
 
-constexpr int firstSize = 64;
+constexpr int directSize = 64;
 
-// Returns the end of the text that the platform has written. It is fresh in memory, which block
-// operations would have to wait for.
+// Returns the end of the text that the platform has written. It compares byte by byte, since loads
+// of whole blocks would stall on bytes that were stored just before.
 char* endOfText(char* text, int written) noexcept {
     char* const last = text + std::max(written, 0);
     while (text != last && *text != '\0') {
@@ -24,47 +24,47 @@ char* endOfText(char* text, int written) noexcept {
 
 } // namespace
 
-// As long as the first size is enough, the platform writes to where the text goes.
 void RunRenderer::append(PictureOperation operation, char letter, std::size_t length,
                          TextOutput& out) {
     const char* const picture = pictureOf(letter, length);
-    if (!grown_.empty()) {
+    if (!buffer_.empty()) {
         appendThroughBuffer(operation, picture, out);
         return;
     }
-    char* const room = out.room(firstSize);
-    const int written = write(operation, picture, room, firstSize);
-    out.advanceTo(endOfText(room, written));
-    if (written == 0 && growFor(operation, picture)) {
-        appendGrown(operation, picture, out);
+    char* const begin = out.reserve(directSize);
+    const int written = write(operation, picture, begin, directSize);
+    out.advanceTo(endOfText(begin, written));
+    if (written == 0 && growBufferFor(operation, picture)) {
+        appendBuffered(operation, picture, out);
     }
 }
 
-// Nearly all runs go without what follows, and need not make room for it.
+// Nearly all runs fit. The functions below aren't inline, so that those runs don't pay for them.
 
 [[gnu::noinline]] void RunRenderer::appendThroughBuffer(PictureOperation operation,
                                                         const char* picture, TextOutput& out) {
-    if (!appendGrown(operation, picture, out) && growFor(operation, picture)) {
-        appendGrown(operation, picture, out);
+    if (!appendBuffered(operation, picture, out) && growBufferFor(operation, picture)) {
+        appendBuffered(operation, picture, out);
     }
 }
 
-bool RunRenderer::appendGrown(PictureOperation operation, const char* picture, TextOutput& out) {
-    char* const buffer = grown_.data();
-    const int written = write(operation, picture, buffer, static_cast<int>(grown_.size()));
+bool RunRenderer::appendBuffered(PictureOperation operation, const char* picture, TextOutput& out) {
+    char* const buffer = buffer_.data();
+    const int written = write(operation, picture, buffer, static_cast<int>(buffer_.size()));
     out.append({buffer, static_cast<std::size_t>(endOfText(buffer, written) - buffer)});
     return written != 0;
 }
 
-// Makes room for the length that the platform asks for, if that is why it has refused a run.
-[[gnu::noinline]] bool RunRenderer::growFor(PictureOperation operation, const char* picture) {
+// Enlarges the buffer to the length that the platform asks for, if the run failed for lack of
+// space.
+[[gnu::noinline]] bool RunRenderer::growBufferFor(PictureOperation operation, const char* picture) {
     if (platform::GetLastError() != platform::ERROR_INSUFFICIENT_BUFFER) {
         return false;
     }
     const int needed = write(operation, picture, nullptr, 0);
     if (needed > 0) {
-        grown_.resize(
-            std::max({std::size_t{firstSize}, grown_.size(), static_cast<std::size_t>(needed)}));
+        buffer_.resize(
+            std::max({std::size_t{directSize}, buffer_.size(), static_cast<std::size_t>(needed)}));
     }
     return needed > 0;
 }

@@ -9,17 +9,19 @@
 
 namespace zem::msglib {
 
-/// Finds arguments by their index. It remembers where the last one was, so that arguments in order
-/// cost one step each. It borrows the list.
+/// Finds arguments by their index. It remembers the last position, so that arguments in order take
+/// one step each. It borrows the list.
 class ArgumentCursor {
 public:
     explicit ArgumentCursor(const std::list<boost::any>& args) noexcept
         : args_(args),
           argument_(args.begin()) {}
 
+    /// Returns the whole list.
     const std::list<boost::any>& list() const noexcept { return args_; }
 
-    /// Returns the argument with `index`, counted from 0.
+    /// Returns the argument with `index`, which counts from 0. Takes as many steps through the list
+    /// as `index` is away from the last one, or from 0 if that is closer.
     ///
     /// @throws std::runtime_error "Argument index in format exceeds number of specified arguments"
     const boost::any& at(int index) {

@@ -8,6 +8,10 @@
 
 #include <utility>
 
+// Compiling turns a pattern into static text before the first placeholder and a list of elements,
+// each a placeholder with its formatter and the static text after it. Rendering appends the first
+// text and then lets a `MessageRenderer` render the elements in order.
+
 namespace zem::msglib {
 
 namespace {
@@ -57,7 +61,7 @@ std::size_t MessageFormat::parsePattern(const std::string& pattern, std::size_t 
     reader.readType(appendTo(element.type_));
     reader.readStyle(appendTo(element.style_));
     reader.readEnd();
-    // Text that fails is not stored.
+    // If this text fails to compile, the element keeps an empty suffix.
     position = parseStatic(pattern, reader.position(), scratch);
     element.suffix_ = std::move(scratch);
     element.buildFormat(locale);

@@ -15,19 +15,26 @@
 #include <typeinfo>
 #include <utility>
 
+// A pattern goes in, text comes out, and nothing is compiled first. `render` reads the pattern
+// piece by piece: static text is appended, and a placeholder is rendered by the function for its
+// type and style. A choice replaces the reader by one for the chosen text and keeps the outer one
+// in a frame until that text is finished. On a failure, `compileRest` compiles what has not been
+// read yet, since a syntax error later in the pattern would have been the failure of compiling it
+// first.
+
 namespace zem::msglib {
 
 namespace {
 
-// All formatters of elements are made in the library, so their types have one identity each and no
-// name to compare.
+// All formatters of elements are created in the library, so each type has one `type_info` object,
+// and comparing addresses is enough.
 template <class Kind>
 bool is(const Format& format) noexcept {
     return &typeid(format) == &typeid(Kind);
 }
 
-// From as many choices in one another on, an index of braces pays.
-constexpr std::size_t fewLevels = 8;
+// The depth of nested choices from which an index of braces is faster than scanning.
+constexpr std::size_t indexedDepth = 8;
 
 } // namespace
 
@@ -65,7 +72,7 @@ void MessageRenderer::renderPlaceholder(PlaceholderReader& reader) {
     }
 }
 
-// Not inline, so that keywords need not make room for it.
+// Not inline, so that keywords don't pay for it.
 [[gnu::noinline]] void MessageRenderer::renderScanned(PlaceholderReader& reader,
                                                       const boost::any& argument) {
     ScannedText type;
@@ -87,7 +94,7 @@ void MessageRenderer::renderStyled(PlaceholderReader& reader, std::string_view t
     }
 }
 
-// Goes on with the text that a choice picks, a message of its own.
+// Continues with the text that a choice selects, which is a message itself.
 [[gnu::noinline]] void MessageRenderer::enterChoice(PlaceholderReader& reader,
                                                     std::string_view style, ScannedText&& copy,
                                                     const boost::any& argument) {
@@ -98,7 +105,7 @@ void MessageRenderer::renderStyled(PlaceholderReader& reader, std::string_view t
     const std::string_view text = chosen.text();
     Frame frame{std::move(chosen.isCopy() ? chosen : copy), nullptr, reader, out_.size()};
     const BraceIndex* braces = reader.braces();
-    if (braces == nullptr && frames_.size() >= fewLevels &&
+    if (braces == nullptr && frames_.size() >= indexedDepth &&
         text.find(quote) == std::string_view::npos) {
         frame.braces = std::make_unique<BraceIndex>(text);
         braces = frame.braces.get();
@@ -108,7 +115,7 @@ void MessageRenderer::renderStyled(PlaceholderReader& reader, std::string_view t
     placeholder_ = 0;
 }
 
-// Goes back to the message that has the choice.
+// Returns to the message that contains the choice; false if there is none.
 bool MessageRenderer::leaveChoice(PlaceholderReader& reader) {
     if (frames_.empty()) {
         return false;
@@ -127,12 +134,12 @@ void MessageRenderer::compileRest(const PlaceholderReader& reader, std::size_t b
     compile(reader.from(placeholder_), begin);
 }
 
-// A message that doesn't compile adds nothing to the output, whose size was `begin` before it.
+// If the message doesn't compile, removes its text: the output had the size `begin` before it.
 void MessageRenderer::compile(std::string_view pattern, std::size_t begin) {
     try {
         MessageFormat{std::string(pattern)};
     } catch (const std::runtime_error&) {
-        out_.cutTo(begin);
+        out_.truncate(begin);
         throw;
     }
 }
@@ -154,22 +161,22 @@ void MessageRenderer::render(const FormatElement& element) {
 
 std::string renderPattern(std::string_view pattern, const std::list<boost::any>& args) {
     constexpr std::size_t shortestPlaceholder = 3;
-    constexpr std::size_t usualArgument = 32;
-    constexpr std::size_t littleWaste = 1024;
+    constexpr std::size_t expectedArgumentSize = 32;
+    constexpr std::size_t acceptableSlack = 1024;
     std::string text;
     const std::size_t placeholders = std::min(args.size(), pattern.size() / shortestPlaceholder);
-    const std::size_t usualSize = pattern.size() + placeholders * usualArgument;
-    if (usualSize > TextOutput::largestRoom) {
-        text.reserve(usualSize);
+    const std::size_t expectedSize = pattern.size() + placeholders * expectedArgumentSize;
+    if (expectedSize > TextOutput::bufferSize) {
+        text.reserve(expectedSize);
     }
     TextOutput output(text);
     MessageRenderer(args, output).render(pattern);
-    // A new string is made of the exact size, which an empty one would exceed in growing.
+    // A new string gets the exact size; growing the empty one would exceed it.
     if (text.empty() && text.capacity() < output.size()) {
-        return std::string(output.gathered());
+        return std::string(output.buffered());
     }
-    output.finish();
-    if (text.capacity() > 2 * text.size() + littleWaste) {
+    output.flush();
+    if (text.capacity() > 2 * text.size() + acceptableSlack) {
         text.shrink_to_fit();
     }
     return text;

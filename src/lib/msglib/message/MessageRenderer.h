@@ -17,26 +17,26 @@ namespace zem::msglib {
 
 class TextOutput;
 
-/// One rendering of one message. It borrows the arguments and the output that it appends to.
+/// Renders one message. It borrows the arguments and the output that it appends to.
 ///
-/// A pattern is rendered as it is read. The text that a choice picks is read in its turn, while
-/// the reader of the message around it waits in a frame, so that no nesting uses the machine stack.
+/// A pattern is rendered while it is read. To render the text that a choice selects, the renderer
+/// pushes the reader of the outer message on a stack of frames, so nesting uses no machine stack.
 ///
-/// Failures come in the order in which compiling each message before rendering it would raise
-/// them: on a failure, the messages that were begun are compiled from where they stand, the
-/// outermost first. If one of them doesn't compile, that is the failure, and nothing of that
-/// message stays in the output.
+/// The failure is the one that compiling each message before rendering it would report: on a
+/// failure, the rest of each unfinished message is compiled, the outermost first. The first of them
+/// that doesn't compile determines the failure, and all text of that message is removed from the
+/// output.
 ///
-/// The time is linear in the length of the pattern and of the text, whatever the nesting: quoting
-/// at least halves the apostrophes from level to level, and where none are left, an index of the
-/// braces lets the readers jump over what is nested.
+/// The time is linear in the lengths of the pattern and the text, whatever the nesting: resolving
+/// the quoting at least halves the apostrophes from level to level, and where none are left, an
+/// index of the braces lets the readers skip nested text.
 class MessageRenderer {
 public:
     MessageRenderer(const std::list<boost::any>& args, TextOutput& out) noexcept
         : arguments_(args),
           out_(out) {}
 
-    /// Appends the message of `pattern`; fails as compiling and rendering it do.
+    /// Appends the message of `pattern`. Throws what compiling and rendering it throw.
     void render(std::string_view pattern);
 
     /// Appends a placeholder of a compiled message and the text after it.
@@ -45,10 +45,10 @@ public:
 private:
     // A choice whose text is being rendered.
     struct Frame {
-        ScannedText copy;                   // keeps the text, where quoting was resolved
-        std::unique_ptr<BraceIndex> braces; // of the text, from some depth on
-        PlaceholderReader outside;          // of the message that has the choice, after it
-        std::size_t begin;                  // the size of the output before the text
+        ScannedText copy;                   // owns the text if quoting was resolved
+        std::unique_ptr<BraceIndex> braces; // of the text, if it is deeply nested
+        PlaceholderReader outside;          // of the outer message, after the choice
+        std::size_t begin;                  // size of the output before the text
     };
 
     void renderPlaceholder(PlaceholderReader& reader);
@@ -63,11 +63,11 @@ private:
 
     ArgumentCursor arguments_;
     TextOutput& out_;
-    std::size_t placeholder_ = 0; // from here on, the message that is being read may not compile
+    std::size_t placeholder_ = 0; // from here on, the current message may fail to compile
     boost::container::small_vector<Frame, 2> frames_;
 };
 
-/// Returns the text of `pattern` with `args`, as a new `MessageFormat` would write it.
+/// Returns the text of `pattern` with `args`, as a new `MessageFormat` would render it.
 std::string renderPattern(std::string_view pattern, const std::list<boost::any>& args);
 
 } // namespace zem::msglib

@@ -4,7 +4,7 @@
 
 namespace zem::msglib {
 
-// Not inline, so that plain digits need not make room for it.
+// Not inline, so that plain digits don't pay for it.
 [[gnu::noinline]] int PlaceholderReader::extractIndex() {
     const std::size_t begin = ++position_;
     ScannedText segment;

@@ -14,8 +14,8 @@ namespace zem::msglib {
 /// Reads a message pattern in the order of its grammar: text, then the index, type, style and end
 /// of a placeholder, then text again. It borrows the pattern.
 ///
-/// Sinks are called with pieces of the pattern, so that the place of each piece in memory is its
-/// position. A copy is a bookmark: it goes on reading where the original stood.
+/// Sinks are called with pieces of the pattern itself, so the address of a piece gives its
+/// position. A copy continues at the position of the original.
 ///
 ///     PlaceholderReader reader(pattern);
 ///     while (reader.readText(text)) {
@@ -26,63 +26,64 @@ namespace zem::msglib {
 ///     }
 class PlaceholderReader {
 public:
-    /// @param braces  where the braces of `pattern` close, if that is known
+    /// Begins at the start of `pattern`.
+    ///
+    /// @param braces  the matching braces of `pattern`, if they are known
     explicit PlaceholderReader(std::string_view pattern,
                                const BraceIndex* braces = nullptr) noexcept
         : pattern_(pattern),
           braces_(braces) {}
 
-    /// The same from `position` of the pattern on.
+    /// Begins at `position` of `pattern`.
     PlaceholderReader(std::string_view pattern, std::size_t position) noexcept
         : pattern_(pattern),
           position_(position) {}
 
-    /// Returns the position of the next byte to read, the size of the pattern at its end.
+    /// Returns the position of the next byte to read; at the end, the size of the pattern.
     std::size_t position() const noexcept { return position_; }
 
     /// Returns the pattern from `position` on.
     std::string_view from(std::size_t position) const noexcept { return pattern_.substr(position); }
 
-    /// Returns where braces close, as given; null if that isn't known.
+    /// Returns the matching braces that the constructor was given, or null.
     const BraceIndex* braces() const noexcept { return braces_; }
 
-    /// Reads static text, with its quoting resolved, up to the next placeholder.
+    /// Reads static text up to the next placeholder and resolves its quoting.
     ///
-    /// @return whether there is one; `position` is that of its brace then
+    /// @return whether there is a placeholder; `position` is then that of its brace
     /// @throws PatternFailure "unexpected closing brace", at that brace
     template <class Sink>
     bool readText(Sink&& sink);
 
-    /// Reads the index of a placeholder from its opening brace on, as formatted extraction from a
+    /// Reads the opening brace and the index of a placeholder, as formatted extraction from a
     /// stream reads an `int`.
     ///
-    /// @throws PatternFailure "Illegal argument in format string" if there is no such number; its
-    ///         position is where the index begins
+    /// @throws PatternFailure "Illegal argument in format string", at the start of the index, if
+    ///         there is no such number
     int readIndex();
 
-    /// Passes the end of a placeholder that has no more than what was read.
+    /// Skips the brace that ends a placeholder, if it is the next byte.
     ///
-    /// @return whether it is one
+    /// @return whether it is
     bool skipEnd() noexcept;
 
-    /// Reads type and style and passes the end of the placeholder, if both are made of small
-    /// letters alone, as keywords are.
+    /// Reads type, style and end of a placeholder if type and style consist of lower-case letters,
+    /// as keywords do.
     ///
-    /// @return whether they are; the reader stays where it was if not
+    /// @return whether they do; if not, the position is unchanged
     bool readKeywords(std::string_view& type, std::string_view& style) noexcept;
 
-    /// Reads the type of a placeholder, if there is one, with doubled quotes resolved.
+    /// Reads the type of a placeholder, if there is one, and resolves doubled apostrophes.
     template <class Sink>
     void readType(Sink&& sink);
 
-    /// Reads the style of a placeholder, if there is one, with doubled quotes resolved.
+    /// Reads the style of a placeholder, if there is one, and resolves doubled apostrophes.
     template <class Sink>
     void readStyle(Sink&& sink);
 
-    /// Passes the brace that ends a placeholder.
+    /// Reads the brace that ends a placeholder.
     ///
-    /// @throws PatternFailure "Illegal argument in format string" if the pattern ends in place of
-    ///         it
+    /// @throws PatternFailure "Illegal argument in format string" at the end of the pattern
     void readEnd();
 
 private:
@@ -121,7 +122,7 @@ bool PlaceholderReader::readText(Sink&& sink) {
     }
 }
 
-// Plain digits, by far the most frequent index, are read where they stand.
+// Plain digits, by far the most frequent index, need no extraction from a stream.
 inline int PlaceholderReader::readIndex() {
     int index = 0;
     const std::size_t begin = position_ + 1;
@@ -176,11 +177,11 @@ void PlaceholderReader::readStyle(Sink&& sink) {
     }
 }
 
-// Reads up to `endByte`, to the brace that ends the placeholder, or to the end of the pattern.
+// Reads up to `endByte`, the brace that ends the placeholder or the end of the pattern.
 template <class Sink>
 void PlaceholderReader::readSegment(char endByte, Sink&& sink) {
     std::size_t depth = 1;
-    std::size_t taken = position_; // everything before it needs no more care
+    std::size_t pieceBegin = position_; // everything before it was delivered
     while ((position_ = findSyntax(pattern_, position_, endByte)) < pattern_.size()) {
         const char c = pattern_[position_];
         if (c == quote && holdsAt(pattern_, position_ + 2, quote)) {
@@ -188,8 +189,8 @@ void PlaceholderReader::readSegment(char endByte, Sink&& sink) {
             continue;
         }
         if (c == quote && holdsAt(pattern_, position_ + 1, quote)) {
-            sink(pattern_.substr(taken, position_ + 1 - taken));
-            taken = position_ += 2;
+            sink(pattern_.substr(pieceBegin, position_ + 1 - pieceBegin));
+            pieceBegin = position_ += 2;
             continue;
         }
         if (c == '{' && endByte == '}' && braces_ != nullptr) {
@@ -206,7 +207,7 @@ void PlaceholderReader::readSegment(char endByte, Sink&& sink) {
         }
         ++position_;
     }
-    sink(pattern_.substr(taken, position_ - taken));
+    sink(pattern_.substr(pieceBegin, position_ - pieceBegin));
 }
 
 } // namespace zem::msglib

@@ -16,12 +16,17 @@
 #include <memory>
 #include <string>
 
+// One table of type and style keywords. Each row has a function that builds the formatter for a
+// compiled message and one that appends an argument directly; both give the same text. The sections
+// before it define these functions by type.
+
 namespace zem::msglib {
 
 namespace {
 
-// A text of four to eight bytes, as all keywords are, in two words that may overlap: two of them
-// compare in a few instructions. Longer and shorter texts equal no keyword but the empty one.
+// A text of four to eight bytes, the length of all keywords, as its first and its last word, which
+// may overlap: comparing two takes a few instructions. Of shorter and longer texts only the size is
+// kept, and no keyword but the empty one has such a size.
 class Keyword {
 public:
     constexpr explicit Keyword(std::string_view text) noexcept : size_(text.size()) {
@@ -61,7 +66,7 @@ void buildNumber(FormatElement& element, const std::locale& locale) {
     element.format_ = makeNumber(type, locale);
 }
 
-// Not inline, so that texts need not make room for locale values.
+// Not inline, so that text arguments don't pay for the stack frame of locale values.
 template <NumberFormat::FormatType type>
 [[gnu::noinline]] void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
     LocaleNumber(type).appendArgument(argument, out);
@@ -77,14 +82,14 @@ void appendRounded(std::string_view, const boost::any& argument, TextOutput& out
     LocaleNumber::rounded().appendArgument(argument, out);
 }
 
-// A pattern that fails leaves the formatter as far as it was compiled.
+// After a failure, the element has the formatter with the parts that were compiled.
 void buildCustomNumber(FormatElement& element, const std::locale& locale) {
     const auto number = makeNumber(NumberFormat::Number, locale);
     element.format_ = number;
     number->applyPattern(element.style_);
 }
 
-// The classic locale needs no lock, and none has a part in the text.
+// The locale doesn't affect the text, and copying the classic one needs no lock.
 void appendCustomNumber(std::string_view style, const boost::any& argument, TextOutput& out) {
     const DecimalFormat format(std::string{style}, DecimalFormatSymbols(std::locale::classic()));
     DecimalForm(format).appendArgument(argument, out);
@@ -135,17 +140,17 @@ void appendWithoutType(std::string_view, const boost::any& argument, TextOutput&
 
 struct Row {
     constexpr Row(std::string_view typeWord, std::string_view styleWord,
-                  PlaceholderStyle asked) noexcept
+                  PlaceholderStyle functions) noexcept
         : type(typeWord),
           style(styleWord),
-          formatter(asked) {}
+          formatter(functions) {}
 
     Keyword type;
     Keyword style;
     PlaceholderStyle formatter;
 };
 
-// Stands for any style; the row comes after the keywords of its type.
+// Matches any style; its row comes after the keywords of the type.
 constexpr std::string_view custom = "*";
 
 constexpr PlaceholderStyle mediumDate = {buildLocaleDate<DateFormat::Medium>,

@@ -10,22 +10,23 @@ namespace zem::msglib {
 struct FormatElement;
 class TextOutput;
 
-/// What the type and style of a placeholder ask for: a formatter that is kept, or the text at once.
+/// The two functions for the type and style of a placeholder: one builds its formatter, the other
+/// renders directly.
 struct PlaceholderStyle {
-    /// Gives `element` its formatter, as `FormatElement::buildFormat` says.
+    /// Builds the formatter of `element`, as `FormatElement::buildFormat` describes.
     using Build = void (*)(FormatElement& element, const std::locale& locale);
 
-    /// Appends `argument` as that formatter writes it, and fails as making and using it do.
+    /// Appends `argument` as that formatter would, and throws what building and using it throw.
     using Append = void (*)(std::string_view style, const boost::any& argument, TextOutput& out);
 
-    Build build;   ///< null for a type that makes no formatter: the argument's kind decides
-    Append append; ///< null for a choice, whose text is a message of its own
+    Build build;   ///< null without a formatter, where the argument's kind decides
+    Append append; ///< null for a choice, whose text is a message itself
 
-    /// Returns the row for type and style as they stand, with case and blanks.
+    /// Returns the functions for `type` and `style`, which are compared byte for byte.
     static const PlaceholderStyle& of(std::string_view type, std::string_view style) noexcept;
 };
 
-/// Appends `argument` as a placeholder without a type writes it.
+/// Appends `argument` as a placeholder without a type renders it.
 ///
 /// @throws as a formatter of the argument's kind does
 void appendByKind(const boost::any& argument, TextOutput& out);

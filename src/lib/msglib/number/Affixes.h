@@ -9,6 +9,7 @@ struct Affixes {
     std::string_view prefix;
     std::string_view suffix;
 
+    /// Returns whether both are empty.
     bool areEmpty() const noexcept { return prefix.empty() && suffix.empty(); }
 };
 

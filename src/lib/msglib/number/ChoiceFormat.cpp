@@ -42,7 +42,7 @@ std::string_view ChoiceFormat::choose(double value) const noexcept {
     ChoiceSearch search(value);
     std::string_view chosen;
     for (const ChoiceEntry& entry : choices_) {
-        if (search.takes(entry.limit)) {
+        if (search.accepts(entry.limit)) {
             chosen = entry.text;
         }
     }

@@ -28,12 +28,12 @@ double ChoiceReader::readLimit() {
     return pattern_[position_++] == '#' ? limit : ChoiceFormat::nextDouble(limit);
 }
 
-bool ChoiceSearch::takes(double limit) noexcept {
-    if (!any_) {
-        any_ = true;
-        settled_ = std::isnan(value_) || value_ < limit;
-    } else if (settled_ || (value_ >= limit_ && limit > value_)) {
-        settled_ = true;
+bool ChoiceSearch::accepts(double limit) noexcept {
+    if (!hasChosen_) {
+        hasChosen_ = true;
+        isDecided_ = std::isnan(value_) || value_ < limit;
+    } else if (isDecided_ || (value_ >= limit_ && limit > value_)) {
+        isDecided_ = true;
         return false;
     }
     limit_ = limit;
@@ -45,7 +45,7 @@ ScannedText chooseText(std::string_view pattern, double value, const BraceIndex*
     ChoiceSearch search(value);
     ScannedText chosen;
     for (bool more = true; more;) {
-        if (search.takes(reader.readLimit())) {
+        if (search.accepts(reader.readLimit())) {
             chosen = ScannedText();
             more = reader.readText(chosen);
         } else {

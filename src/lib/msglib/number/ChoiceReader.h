@@ -10,27 +10,29 @@
 
 namespace zem::msglib {
 
-/// Reads a choice pattern entry by entry: a limit, then its text. It borrows the pattern.
+/// Reads a choice pattern segment by segment: a limit, then its text. It borrows the pattern.
 class ChoiceReader {
 public:
-    /// @param braces  where the braces of `pattern` close, if that is known
+    /// Begins at the start of `pattern`.
+    ///
+    /// @param braces  the matching braces of `pattern`, if they are known
     explicit ChoiceReader(std::string_view pattern, const BraceIndex* braces = nullptr) noexcept
         : pattern_(pattern),
           braces_(braces) {}
 
-    /// Returns the position of the next byte to read, at most one beyond the size of the pattern.
+    /// Returns the position of the next byte to read; at the end, one more than the pattern's size.
     std::size_t position() const noexcept { return position_; }
 
-    /// Reads the least value of the next entry, and passes the separator after it.
+    /// Reads the limit of the next segment and the separator after it.
     ///
-    /// @throws PatternFailure "Syntax error in choice format." if no separator follows; its
-    ///         position is where the entry begins
+    /// @throws PatternFailure "Syntax error in choice format.", at the start of the segment, if it
+    ///         has no separator
     double readLimit();
 
-    /// Reads the text after a limit, with its quoting resolved, and passes what ends it.
+    /// Reads the text after a limit and the byte that ends it, and resolves the quoting.
     ///
     /// @param sink  called with each piece of the text, a part of the pattern
-    /// @return whether another entry follows
+    /// @return whether another segment follows
     template <class Sink>
     bool readText(Sink&& sink);
 
@@ -40,43 +42,43 @@ private:
     std::size_t position_ = 0;
 };
 
-/// Finds the choice for a value among entries that are shown one by one, in their order.
+/// Finds the segment for a value. The caller passes the limits in their order.
 class ChoiceSearch {
 public:
     explicit ChoiceSearch(double value) noexcept : value_(value) {}
 
-    /// Returns whether the next entry, from `limit` on, takes the place of the one before.
-    bool takes(double limit) noexcept;
+    /// Returns whether the segment with `limit` replaces the one chosen so far.
+    bool accepts(double limit) noexcept;
 
 private:
     double value_;
-    double limit_ = 0.0; // of the entry chosen so far
-    bool any_ = false;
-    bool settled_ = false;
+    double limit_ = 0.0; // of the segment chosen so far
+    bool hasChosen_ = false;
+    bool isDecided_ = false;
 };
 
-/// Returns the text that a `ChoiceFormat` of `pattern` chooses for `value`. All of `pattern` is
-/// read, so that a wrong one fails whatever the value is.
+/// Returns the text that a `ChoiceFormat` of `pattern` chooses for `value`. It reads the whole
+/// pattern, so a syntax error is reported whatever the value.
 ///
-/// @param braces  where the braces of `pattern` close, if that is known
+/// @param braces  the matching braces of `pattern`, if they are known
 /// @throws PatternFailure "Syntax error in choice format."
 ScannedText chooseText(std::string_view pattern, double value, const BraceIndex* braces);
 
 template <class Sink>
 bool ChoiceReader::readText(Sink&& sink) {
     std::size_t depth = 1;
-    std::size_t taken = position_; // everything before it needs no more care
+    std::size_t pieceBegin = position_; // everything before it was delivered
     while ((position_ = findSyntax(pattern_, position_, '|')) < pattern_.size()) {
         const char c = pattern_[position_];
         if (c == quote && holdsAt(pattern_, position_ + 1, quote)) {
-            sink(pattern_.substr(taken, position_ + 1 - taken));
-            taken = position_ += 2;
+            sink(pattern_.substr(pieceBegin, position_ + 1 - pieceBegin));
+            pieceBegin = position_ += 2;
             continue;
         }
         if (c == quote && pattern_.size() - position_ > 2) {
-            sink(pattern_.substr(taken, position_ - taken));
+            sink(pattern_.substr(pieceBegin, position_ - pieceBegin));
             sink(pattern_.substr(position_ + 1, 1));
-            taken = position_ += 3;
+            pieceBegin = position_ += 3;
             continue;
         }
         if (c == '{' && braces_ != nullptr) {
@@ -93,7 +95,7 @@ bool ChoiceReader::readText(Sink&& sink) {
         }
         ++position_;
     }
-    sink(pattern_.substr(taken, position_ - taken));
+    sink(pattern_.substr(pieceBegin, position_ - pieceBegin));
     return position_++ < pattern_.size();
 }
 

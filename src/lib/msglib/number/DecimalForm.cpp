@@ -14,7 +14,7 @@ double dividedByPower(double x, std::int64_t exponent) {
     if (power > 0.0) {
         return x / power;
     }
-    // No double holds this power, so the smallest numbers get there in two steps.
+    // No double holds this power, so the smallest numbers are scaled in two steps.
     constexpr int step = 300;
     return x * 1e300 / powerOfTen(exponent + step);
 }
@@ -36,9 +36,9 @@ void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
     });
 }
 
-// Divides by the power of ten that brings as many digits before the point as the pattern asks for;
-// zero and infinity stay as they are. Like the other half of exponents it isn't inline, so that
-// numbers without an exponent need not make room for it.
+// Divides by the power of ten that leaves the minimum number of integer digits before the point.
+// Zero and infinity are returned unchanged. The functions for exponents aren't inline, so that
+// numbers without an exponent don't pay for them.
 [[gnu::noinline]] ScaledNumber DecimalForm::scaleToExponent(double x) const {
     if (x == 0.0 || x == std::numeric_limits<double>::infinity()) {
         return {x, 0};

@@ -14,7 +14,8 @@
 
 namespace zem::msglib {
 
-/// The form of numbers that the fields of a `DecimalFormat` describe, which it borrows.
+/// The form (see NumberWriter.h) that the fields of a `DecimalFormat` describe. It borrows the
+/// `DecimalFormat`.
 class DecimalForm {
 public:
     explicit DecimalForm(const DecimalFormat& format) noexcept : format_(format) {}
@@ -22,15 +23,16 @@ public:
     /// Appends a number as `DecimalFormat::format` does.
     void append(double value, TextOutput& out) const;
 
-    /// The same for an argument of any numeric kind.
+    /// Appends an argument of any numeric kind.
     ///
     /// @throws what `readNumber` throws
     void appendArgument(const boost::any& argument, TextOutput& out) const;
 
-    /// Appends a whole number, for a pattern without exponent: no multiplier and no rounding.
+    /// Appends a whole number without multiplier and rounding. The pattern must not have an
+    /// exponent.
     void appendWhole(std::int64_t value, TextOutput& out) const;
 
-    // What the writer of numbers asks for.
+    // The operations of a form.
 
     Affixes positiveAffixes() const noexcept {
         return {format_.positivePrefix_, format_.positiveSuffix_};

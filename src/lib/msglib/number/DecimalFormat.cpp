@@ -11,8 +11,9 @@
 #include <string_view>
 #include <utility>
 
-// The compiler is a scanner over bytes that turns a pattern into the fields. `DecimalForm` turns the
-// fields into the text of a number.
+// The compiler turns a pattern into the fields of a `DecimalFormat`. It scans the bytes once:
+// prefix, integer, fraction, exponent and suffix, and after a ";" the same for negative numbers, of
+// which only the affixes are kept. `DecimalForm` renders a number from the fields.
 
 namespace zem::msglib {
 
@@ -20,7 +21,8 @@ namespace {
 
 constexpr char currencySign = '\xA4';
 
-// A count of marks as the field that keeps it; more than fit count as the most that do.
+// Converts a count of marks to the type of its field. A count that doesn't fit becomes the largest
+// value.
 template <class Field>
 Field countAs(std::size_t marks) {
     return static_cast<Field>(
@@ -62,20 +64,20 @@ std::string& DecimalFormat::format(long value, std::string& out) const {
 
 void DecimalFormat::applyPattern(const std::string& pattern) {
     reset();
-    std::size_t pos = parseAffix(pattern, 0, positivePrefix_, false);
-    pos = parsePattern(pattern, pos, false);
-    pos = parseAffix(pattern, pos, positiveSuffix_, true);
-    if (pos == pattern.size()) {
+    std::size_t position = parseAffix(pattern, 0, positivePrefix_, false);
+    position = parsePattern(pattern, position, false);
+    position = parseAffix(pattern, position, positiveSuffix_, true);
+    if (position == pattern.size()) {
         return;
     }
-    if (pattern[pos] != ';') {
-        raise(Failure::SeparatorExpected, pos);
+    if (pattern[position] != ';') {
+        raise(Failure::SeparatorExpected, position);
     }
-    pos = parseAffix(pattern, pos + 1, negativePrefix_, false);
-    pos = parsePattern(pattern, pos, true);
-    pos = parseAffix(pattern, pos, negativeSuffix_, true);
-    if (pos != pattern.size()) {
-        raise(Failure::EndOfPatternExpected, pos);
+    position = parseAffix(pattern, position + 1, negativePrefix_, false);
+    position = parsePattern(pattern, position, true);
+    position = parseAffix(pattern, position, negativeSuffix_, true);
+    if (position != pattern.size()) {
+        raise(Failure::EndOfPatternExpected, position);
     }
 }
 
@@ -96,75 +98,75 @@ void DecimalFormat::reset() {
     monetary_ = false;
 }
 
-// An affix that fails leaves the field as it was.
-std::size_t DecimalFormat::parseAffix(const std::string& pattern, std::size_t pos,
+// A failure leaves the field unchanged.
+std::size_t DecimalFormat::parseAffix(const std::string& pattern, std::size_t position,
                                       std::string& affix, bool suffix) {
     std::string text;
-    pos = parseStatic(pattern, pos, text, suffix);
+    position = parseStatic(pattern, position, text, suffix);
     affix = std::move(text);
-    return pos;
+    return position;
 }
 
-std::size_t DecimalFormat::parseStatic(const std::string& pattern, std::size_t pos,
+std::size_t DecimalFormat::parseStatic(const std::string& pattern, std::size_t position,
                                        std::string& text, bool suffix) {
     text.clear();
     bool percentSeen = false;
-    while (pos < pattern.size()) {
-        const char c = pattern[pos];
-        if (c == quote && holdsAt(pattern, pos + 1, quote)) {
+    while (position < pattern.size()) {
+        const char c = pattern[position];
+        if (c == quote && holdsAt(pattern, position + 1, quote)) {
             text.push_back(quote);
-            pos += 2;
-        } else if (c == quote && holdsAt(pattern, pos + 2, quote)) {
-            text.push_back(pattern[pos + 1]);
-            pos += 3;
-        } else if (c == currencySign && holdsAt(pattern, pos + 1, currencySign)) {
+            position += 2;
+        } else if (c == quote && holdsAt(pattern, position + 2, quote)) {
+            text.push_back(pattern[position + 1]);
+            position += 3;
+        } else if (c == currencySign && holdsAt(pattern, position + 1, currencySign)) {
             text.append(symbols_.internationalCurrencySymbol_);
             monetary_ = true;
-            pos += 2;
+            position += 2;
         } else if (c == currencySign) {
             text.append(symbols_.currencySymbol_);
             monetary_ = true;
-            ++pos;
+            ++position;
         } else if (suffix && c == '%') {
             if (percentSeen) {
-                raise(Failure::MultiplierAlreadySet, pos);
+                raise(Failure::MultiplierAlreadySet, position);
             }
             percentSeen = true;
             multiplier_ = 100;
             text.push_back(c);
-            ++pos;
+            ++position;
         } else if (patternChars_.find(c) != std::string_view::npos) {
-            return pos;
+            return position;
         } else {
             text.push_back(c);
-            ++pos;
+            ++position;
         }
     }
-    return pos;
+    return position;
 }
 
-std::size_t DecimalFormat::parsePattern(const std::string& pattern, std::size_t pos,
+std::size_t DecimalFormat::parsePattern(const std::string& pattern, std::size_t position,
                                         bool negative) {
-    pos = parseInteger(pattern, pos, negative);
-    if (holdsAt(pattern, pos, '.')) {
-        pos = parseFraction(pattern, pos + 1, negative);
+    position = parseInteger(pattern, position, negative);
+    if (holdsAt(pattern, position, '.')) {
+        position = parseFraction(pattern, position + 1, negative);
     }
-    if (holdsAt(pattern, pos, 'E')) {
-        pos = parseExponent(pattern, pos + 1, negative);
+    if (holdsAt(pattern, position, 'E')) {
+        position = parseExponent(pattern, position + 1, negative);
     }
-    return pos;
+    return position;
 }
 
-std::size_t DecimalFormat::parseInteger(const std::string& pattern, std::size_t pos,
+std::size_t DecimalFormat::parseInteger(const std::string& pattern, std::size_t position,
                                         bool negative) {
     std::size_t marks = 0;
     std::size_t zeros = 0;
     bool comma = false;
-    for (; pos < pattern.size(); ++pos) {
-        const char c = pattern[pos];
+    for (; position < pattern.size(); ++position) {
+        const char c = pattern[position];
         if (c == '#') {
             if (zeros > 0) {
-                raise(Failure::DigitMarkAfterZero, pos);
+                raise(Failure::DigitMarkAfterZero, position);
             }
             ++marks;
         } else if (c == '0') {
@@ -182,18 +184,18 @@ std::size_t DecimalFormat::parseInteger(const std::string& pattern, std::size_t 
         minimumIntegerDigits_ = countAs<int>(zeros);
         groupingUsed_ = comma;
     }
-    return pos;
+    return position;
 }
 
-std::size_t DecimalFormat::parseFraction(const std::string& pattern, std::size_t pos,
+std::size_t DecimalFormat::parseFraction(const std::string& pattern, std::size_t position,
                                          bool negative) {
     std::size_t hashes = 0;
     std::size_t zeros = 0;
-    for (; pos < pattern.size(); ++pos) {
-        const char c = pattern[pos];
+    for (; position < pattern.size(); ++position) {
+        const char c = pattern[position];
         if (c == '0') {
             if (hashes > 0) {
-                raise(Failure::ZeroMarkAfterDigit, pos);
+                raise(Failure::ZeroMarkAfterDigit, position);
             }
             ++zeros;
         } else if (c == '#') {
@@ -206,27 +208,27 @@ std::size_t DecimalFormat::parseFraction(const std::string& pattern, std::size_t
         minimumFractionDigits_ = countAs<int>(zeros);
         maximumFractionDigits_ = countAs<int>(zeros + hashes);
     }
-    return pos;
+    return position;
 }
 
-std::size_t DecimalFormat::parseExponent(const std::string& pattern, std::size_t pos,
+std::size_t DecimalFormat::parseExponent(const std::string& pattern, std::size_t position,
                                          bool negative) {
     std::size_t zeros = 0;
-    for (; pos < pattern.size(); ++pos) {
-        const char c = pattern[pos];
+    for (; position < pattern.size(); ++position) {
+        const char c = pattern[position];
         if (c == '0') {
             ++zeros;
         } else if (c != '#') {
             break;
         } else if (zeros > 0) {
-            raise(Failure::DigitMarkAfterZeroInExponent, pos);
+            raise(Failure::DigitMarkAfterZeroInExponent, position);
         }
     }
     if (!negative) {
         useExponentialNotation_ = true;
         minimumExponentDigits_ = countAs<short>(zeros);
     }
-    return pos;
+    return position;
 }
 
 } // namespace zem::msglib

@@ -6,7 +6,7 @@ namespace zem::msglib {
 
 namespace {
 
-// Most symbols are what they start as, and comparing costs less than writing.
+// Most symbols equal their default, and comparing costs less than assigning.
 void query(std::uint32_t lctype, std::string& symbol) {
     if (const LocaleNumberValue value(lctype); value.found() && value.text() != symbol) {
         symbol = value.text();

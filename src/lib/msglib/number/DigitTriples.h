@@ -9,10 +9,10 @@ namespace zem::msglib {
 /// Writes digits three at a time, from a table.
 class DigitTriples {
 public:
-    /// How many bytes a write may touch.
-    static constexpr std::size_t room = 4;
+    /// The most bytes that one call may overwrite.
+    static constexpr std::size_t writeSize = 4;
 
-    /// @param zeroDigit  the byte of the digit zero; the other digits are the nine bytes behind it
+    /// @param zeroDigit  the byte of the digit zero; the other digits are the nine bytes after it
     explicit DigitTriples(char zeroDigit) noexcept
         : low_((static_cast<unsigned char>(zeroDigit) & 0x7FU) * 0x01010101U),
           high_((static_cast<unsigned char>(zeroDigit) & 0x80U) * 0x01010101U) {}
@@ -23,21 +23,21 @@ public:
         return at + 3;
     }
 
-    /// The same without zeros in front; 0 has one digit.
+    /// Writes the number without leading zeros, 0 as one digit, and returns where it ends.
     char* writeFirst(unsigned int number, char* at) const noexcept {
         const std::size_t zeros = (number < 100 ? 1U : 0U) + (number < 10 ? 1U : 0U);
         put(table_.rows[number] + zeros, at);
         return at + 3 - zeros;
     }
 
-    /// Returns how many of the three digits are left without the zeros behind the last other digit.
-    static std::size_t withoutTrailingZeros(unsigned int number) noexcept {
+    /// Returns how many of the three digits remain without trailing zeros.
+    static std::size_t significantDigits(unsigned int number) noexcept {
         return static_cast<std::size_t>(table_.rows[number][3]);
     }
 
 private:
-    // Adds the zero digit to all bytes at once, where no byte carries into the next: the table's
-    // are below ten, and the highest bits are added without a carry.
+    // Adds the zero digit to all bytes at once. No byte carries into the next: those of the table
+    // are below ten, and the highest bits are added without carry.
     void put(const char* digits, char* at) const noexcept {
         std::uint32_t bytes = 0;
         std::memcpy(&bytes, digits, sizeof bytes);
@@ -45,8 +45,8 @@ private:
         std::memcpy(at, &bytes, sizeof bytes);
     }
 
-    // The digits of each number below 1,000 as bytes from 0 to 9, and what `withoutTrailingZeros`
-    // returns.
+    // A row has the three digits of a number below 1,000 as bytes from 0 to 9, and the result of
+    // `significantDigits`.
     struct Table {
         char rows[1000][4];
     };

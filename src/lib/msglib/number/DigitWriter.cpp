@@ -10,36 +10,44 @@
 #include <iterator>
 #include <memory>
 
+// A non-negative number goes in, its digits with separators come out. The number is split into a
+// whole part and a fraction. The whole part is divided by powers of ten; the fraction is multiplied
+// by them, in integer arithmetic if its multiples are exact and step by step in doubles otherwise.
+// Digits are written three at a time into the output's buffer. Layouts that nearly all numbers have
+// take a fast path without any intermediate text; all others take the general one.
+
 namespace zem::msglib {
 
 namespace {
 
-// Below this a double holds every integer, and the quotient of a division by ten has the right
-// integer part, so that integers give the same digits as doubles.
+// Below this, a double holds every integer, and the quotient of a division by ten has the correct
+// integer part. Integer arithmetic then gives the same digits as arithmetic in doubles.
 constexpr double exactIntegers = 0x1p53;
 
-// The most digits of any unsigned 64 bits, and of the largest finite double.
-constexpr std::size_t mostDigitsOf64Bits = 20;
-constexpr std::size_t mostIntegerDigits = 309;
+// The number of digits of the largest unsigned number of 64 bits, and of the largest finite double.
+constexpr std::size_t maxDigitsOf64Bits = 20;
+constexpr std::size_t maxIntegerDigits = 309;
 
-// A fraction is a multiple of 2 to the power -1074. Each multiplication by ten takes one factor of
-// two away, so nothing is left behind as many digits.
-constexpr std::size_t mostFractionDigits = 1074;
+// A fraction is a multiple of 2 to the power -1074. Each multiplication by ten removes one factor
+// of two from the denominator, so no digit after that many differs from zero.
+constexpr std::size_t maxFractionDigits = 1074;
 
-// Nearly all numbers stand in groups of three or in none, have no digits to add or to leave out in
-// front and few behind the point, and separators of one byte. What is written of such a number
-// takes at most this room.
-constexpr std::size_t usualRoom = 128;
+// The most bytes that a number on the fast path takes: one in groups of three or without groups,
+// with no leading zeros to add, no leading digits to drop, few fraction digits and separators of
+// one byte.
+constexpr std::size_t fastPathSize = 128;
 
-bool isUsual(const DigitLayout& layout) noexcept {
-    constexpr std::size_t fewDigits = 64;
+bool hasFastPath(const DigitLayout& layout) noexcept {
+    constexpr std::size_t maxFastFractionDigits = 64;
     const bool isGroupedByThree = layout.groupSize == 3 && layout.groupingSeparator.size() == 1;
     return (isGroupedByThree || layout.groupSize == 0) && layout.minimumIntegerDigits <= 1 &&
-           layout.maximumIntegerDigits >= mostDigitsOf64Bits &&
-           layout.maximumFractionDigits <= fewDigits && layout.decimalSeparator.size() == 1;
+           layout.maximumIntegerDigits >= maxDigitsOf64Bits &&
+           layout.maximumFractionDigits <= maxFastFractionDigits &&
+           layout.decimalSeparator.size() == 1;
 }
 
-// Writes a whole number of a usual layout. Its groups but the first wait in ten bits each.
+// Writes a whole number on the fast path. Division gives the last group first, so all groups but
+// the first are stored in ten bits each until it is their turn.
 char* writeThousands(std::uint64_t whole, const DigitLayout& layout, DigitTriples triples,
                      char* at) noexcept {
     if (whole == 0 && layout.minimumIntegerDigits == 0) {
@@ -62,12 +70,12 @@ char* writeThousands(std::uint64_t whole, const DigitLayout& layout, DigitTriple
     return at;
 }
 
-// The digits of a whole number, without a zero in front.
+// The digits of a whole number, without leading zeros; none for 0.
 class WholeDigits {
 public:
     explicit WholeDigits(std::uint64_t whole) noexcept { begin(whole); }
 
-    // Of a number that may be beyond `exactIntegers`, where each division by ten may round.
+    // A number of any size. From `exactIntegers` on, each division by ten may round.
     explicit WholeDigits(double whole) noexcept {
         char* const end = std::end(digits_);
         char* first = end;
@@ -90,7 +98,7 @@ private:
         end_ = whole == 0 ? digits_ : std::to_chars(digits_, std::end(digits_), whole).ptr;
     }
 
-    char digits_[mostIntegerDigits];
+    char digits_[maxIntegerDigits];
     char* end_;
 };
 
@@ -134,9 +142,10 @@ private:
     std::size_t separators_;
 };
 
-constexpr unsigned int tens[] = {1, 10, 100, 1000};
+constexpr unsigned int smallPowersOfTen[] = {1, 10, 100, 1000};
 
-// The digits of a fraction whose multiples by ten are exact: a multiple of 2 to the power -50.
+// The digits of a fraction that is a multiple of 2 to the power -50, so that its products with
+// powers of ten are exact.
 class ExactFraction {
 public:
     explicit ExactFraction(double fraction) noexcept
@@ -144,9 +153,9 @@ public:
 
     bool isZero() const noexcept { return rest_ == 0; }
 
-    // The next digits, at most three, as a number.
+    // Returns the next digits, at most three, as a number.
     unsigned int next(std::size_t digits) noexcept {
-        rest_ *= tens[digits];
+        rest_ *= smallPowersOfTen[digits];
         const auto number = static_cast<unsigned int>(rest_ >> 50);
         rest_ &= (std::uint64_t{1} << 50) - 1;
         return number;
@@ -156,7 +165,7 @@ private:
     std::uint64_t rest_;
 };
 
-// The same for any fraction, where each step may round.
+// The digits of any fraction. Each step may round, as the arithmetic of doubles defines it.
 class AnyFraction {
 public:
     explicit AnyFraction(double fraction) noexcept : rest_(fraction) {}
@@ -183,8 +192,8 @@ public:
     unsigned int next(std::size_t) const noexcept { return 0; }
 };
 
-// Writes the digits behind a separator up to the last one that isn't zero, and on to the minimum.
-// Without any the number ends at the point, in front of the separator.
+// Writes the fraction digits after a separator: up to the last one that isn't zero, but at least
+// the minimum. Returns the end of the number, which is before the separator if there are no digits.
 template <class Fraction>
 char* writeFraction(Fraction fraction, const DigitLayout& layout, DigitTriples triples, char* point,
                     char* at) noexcept {
@@ -193,9 +202,9 @@ char* writeFraction(Fraction fraction, const DigitLayout& layout, DigitTriples t
     char* end = least > 0 ? at + least : point;
     for (std::size_t left = most; left > 0 && !fraction.isZero();) {
         const std::size_t digits = std::min<std::size_t>(left, 3);
-        const unsigned int number = fraction.next(digits) * tens[3 - digits];
+        const unsigned int number = fraction.next(digits) * smallPowersOfTen[3 - digits];
         triples.write(number, at);
-        const std::size_t significant = DigitTriples::withoutTrailingZeros(number);
+        const std::size_t significant = DigitTriples::significantDigits(number);
         end = significant > 0 ? std::max(end, at + significant) : end;
         at += digits;
         left -= digits;
@@ -207,16 +216,16 @@ char* writeFraction(Fraction fraction, const DigitLayout& layout, DigitTriples t
 }
 
 template <class Fraction>
-void appendInAnyLayout(std::string_view whole, Fraction fraction, std::size_t fractionDigits,
-                       const DigitLayout& layout, TextOutput& out) {
+void appendGeneral(std::string_view whole, Fraction fraction, std::size_t fractionDigits,
+                   const DigitLayout& layout, TextOutput& out) {
     const IntegerPart integer(whole, layout);
     const std::string_view separator = layout.decimalSeparator;
-    const std::size_t most = integer.size() + separator.size() + DigitTriples::room +
+    const std::size_t most = integer.size() + separator.size() + DigitTriples::writeSize +
                              std::max(std::min(fractionDigits, layout.maximumFractionDigits),
                                       layout.minimumFractionDigits);
-    const bool fits = most <= TextOutput::largestRoom;
+    const bool fits = most <= TextOutput::bufferSize;
     const std::unique_ptr<char[]> large(fits ? nullptr : new char[most]);
-    char* const begin = fits ? out.room(most) : large.get();
+    char* const begin = fits ? out.reserve(most) : large.get();
     char* const point = integer.writeTo(begin);
     char* const end = writeFraction(fraction, layout, DigitTriples(layout.zeroDigit), point,
                                     std::copy(separator.begin(), separator.end(), point));
@@ -228,19 +237,19 @@ void appendInAnyLayout(std::string_view whole, Fraction fraction, std::size_t fr
 }
 
 template <class Fraction>
-[[gnu::noinline]] void appendInAnyLayout(std::uint64_t whole, Fraction fraction,
-                                         const DigitLayout& layout, TextOutput& out) {
-    appendInAnyLayout(WholeDigits(whole).text(), fraction, mostFractionDigits, layout, out);
+[[gnu::noinline]] void appendGeneral(std::uint64_t whole, Fraction fraction,
+                                     const DigitLayout& layout, TextOutput& out) {
+    appendGeneral(WholeDigits(whole).text(), fraction, maxFractionDigits, layout, out);
 }
 
 template <class Fraction>
 void append(std::uint64_t whole, Fraction fraction, const DigitLayout& layout, TextOutput& out) {
-    if (!isUsual(layout)) {
-        appendInAnyLayout(whole, fraction, layout, out);
+    if (!hasFastPath(layout)) {
+        appendGeneral(whole, fraction, layout, out);
         return;
     }
     const DigitTriples triples(layout.zeroDigit);
-    char* const point = writeThousands(whole, layout, triples, out.room(usualRoom));
+    char* const point = writeThousands(whole, layout, triples, out.reserve(fastPathSize));
     *point = layout.decimalSeparator.front();
     out.advanceTo(writeFraction(fraction, layout, triples, point, point + 1));
 }
@@ -248,21 +257,23 @@ void append(std::uint64_t whole, Fraction fraction, const DigitLayout& layout, T
 } // namespace
 
 double roundingOf(int maximumFractionDigits) noexcept {
-    static constexpr double usual[] = {1e-1 * 5.0, 1e-2 * 5.0, 1e-3 * 5.0, 1e-4 * 5.0, 1e-5 * 5.0};
-    if (maximumFractionDigits >= 0 && maximumFractionDigits < static_cast<int>(std::size(usual))) {
-        return usual[maximumFractionDigits];
+    static constexpr double smallTerms[] = {1e-1 * 5.0, 1e-2 * 5.0, 1e-3 * 5.0, 1e-4 * 5.0,
+                                            1e-5 * 5.0};
+    if (maximumFractionDigits >= 0 &&
+        maximumFractionDigits < static_cast<int>(std::size(smallTerms))) {
+        return smallTerms[maximumFractionDigits];
     }
     return powerOfTen(-std::int64_t{maximumFractionDigits} - 1) * 5.0;
 }
 
 void appendDigits(double x, const DigitLayout& layout, TextOutput& out) {
     if (x >= exactIntegers) {
-        appendInAnyLayout(WholeDigits(x).text(), NoFraction(), 0, layout, out);
+        appendGeneral(WholeDigits(x).text(), NoFraction(), 0, layout, out);
         return;
     }
     const auto whole = static_cast<std::int64_t>(x);
     const double fraction = x - static_cast<double>(whole);
-    // From 4 on the last bit of x is worth 2 to the power -50 or more.
+    // From 4 on, the last bit of x is 2 to the power -50 or more.
     if (whole >= 4) {
         append(static_cast<std::uint64_t>(whole), ExactFraction(fraction), layout, out);
     } else {

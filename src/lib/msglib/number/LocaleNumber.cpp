@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <cstdio>
 
-// Little varies in a pattern that the locale values give: three counts of digits, and affixes out of
-// small tables. They are kept as they would be compiled, so that a number needs no compiled pattern,
-// and the text of the pattern is put together from them.
+// The patterns that locale values produce vary only in three digit counts and in affixes from small
+// tables. So the locale values are read into these fields, and a number is rendered from them
+// without compiling a pattern. `pattern` writes the text of the pattern from the same fields.
 
 namespace zem::msglib {
 
@@ -18,8 +18,8 @@ namespace {
 
 constexpr char currencySign = '\xA4';
 
-// More digits than this are no locale value.
-constexpr unsigned int mostDigits = 4096;
+// A count beyond this is not a valid locale value and becomes 0.
+constexpr unsigned int maxDigits = 4096;
 
 constexpr Affixes negativeNumbers[] = {{"(", ")"}, {"-", ""}, {"- ", ""}, {"", "-"}, {"", " -"}};
 constexpr Affixes negativePercents[] = {
@@ -38,7 +38,7 @@ constexpr bool isDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// The number that a value begins with, 0 if there is none.
+// Returns the number at the beginning of a value, or 0 if there is none.
 unsigned int countIn(const LocaleNumberValue& value) noexcept {
     const char* text = value.c_str();
     if (isDigit(text[0]) && !isDigit(text[1])) {
@@ -50,7 +50,7 @@ unsigned int countIn(const LocaleNumberValue& value) noexcept {
 
 unsigned int digitsIn(std::uint32_t lctype) noexcept {
     const unsigned int count = countIn(LocaleNumberValue(lctype));
-    return count <= mostDigits ? count : 0;
+    return count <= maxDigits ? count : 0;
 }
 
 bool isLocaleKnown() noexcept {
@@ -58,24 +58,24 @@ bool isLocaleKnown() noexcept {
     return platform::IsValidLocale(locale, platform::LCID_INSTALLED);
 }
 
-// A symbol. One that the platform doesn't have stays what it starts as in `DecimalFormatSymbols`.
+// A symbol. If the platform lacks it, the text is the default of `DecimalFormatSymbols`.
 class LocaleSymbol {
 public:
-    LocaleSymbol(std::uint32_t lctype, std::string_view start) noexcept
+    LocaleSymbol(std::uint32_t lctype, std::string_view defaultText) noexcept
         : value_(lctype),
-          start_(start) {}
+          default_(defaultText) {}
 
-    std::string_view text() const noexcept { return value_.found() ? value_.text() : start_; }
-    char first() const noexcept { return value_.found() ? value_.first() : start_.front(); }
+    std::string_view text() const noexcept { return value_.found() ? value_.text() : default_; }
+    char first() const noexcept { return value_.found() ? value_.first() : default_.front(); }
 
 private:
     LocaleNumberValue value_;
-    std::string_view start_;
+    std::string_view default_;
 };
 
 } // namespace
 
-// The form for the writer of numbers, with the symbols that stand between digits.
+// The form (see NumberWriter.h), with the symbols between digits in buffers of its own.
 class LocaleNumber::Form {
 public:
     explicit Form(const LocaleNumber& number) noexcept : Form(number, number.isMonetary()) {}
@@ -108,13 +108,13 @@ public:
         return roundingOf(static_cast<int>(number_.maximumFractionDigits_));
     }
 
-    // No locale has exponents.
+    // The locale values have no exponential notation.
     static ScaledNumber scale(double x) noexcept { return {x, 0}; }
     static void appendExponent(std::int64_t, TextOutput&) noexcept {}
 
     DigitLayout digitLayout() const noexcept {
-        constexpr std::size_t mostIntegerDigits = 309;
-        return {mostIntegerDigits,
+        constexpr std::size_t maxIntegerDigits = 309;
+        return {maxIntegerDigits,
                 number_.hasLeadingZero_ ? 1U : 0U,
                 number_.maximumFractionDigits_,
                 number_.minimumFractionDigits_,
@@ -154,7 +154,7 @@ LocaleNumber::LocaleNumber(NumberFormat::FormatType type) noexcept
     }
 }
 
-// The fallback pattern for integers has a fraction; nothing else is different.
+// This differs from `NumberFormat::Integer` only in the fallback pattern, which has a fraction.
 LocaleNumber LocaleNumber::rounded() noexcept {
     LocaleNumber number(NumberFormat::Integer);
     number.maximumFractionDigits_ = 0;
@@ -177,7 +177,7 @@ void LocaleNumber::readValues() noexcept {
     }
 }
 
-// In a pattern without digit marks nothing ends the prefix, so it takes in what would be the suffix.
+// In a pattern without digit marks nothing ends the prefix, so the suffix is part of it.
 void LocaleNumber::readCurrencyMark() noexcept {
     std::string_view& back = hasDigitMarks() ? affixes_.suffix : affixes_.prefix;
     switch (LocaleNumberValue(platform::LOCALE_ICURRENCY).first()) {
@@ -189,7 +189,7 @@ void LocaleNumber::readCurrencyMark() noexcept {
     }
 }
 
-// As "#,##0.###", "$#,##0.00;($#,##0.00)" and "#,##0%".
+// The fields of the fallback patterns "#,##0.###", "$#,##0.00;($#,##0.00)" and "#,##0%".
 void LocaleNumber::fallBack() noexcept {
     switch (type_) {
     case NumberFormat::Currency:
@@ -206,7 +206,7 @@ bool LocaleNumber::hasDigitMarks() const noexcept {
     return groupSize_ > 0 || hasLeadingZero_ || maximumFractionDigits_ > 0;
 }
 
-// All affixes of amounts hold the currency sign, except those of the fallback pattern.
+// All affixes of amounts contain the currency sign, except those of the fallback pattern.
 bool LocaleNumber::isMonetary() const noexcept {
     return isKnown_ && type_ == NumberFormat::Currency &&
            (!affixes_.areEmpty() || !negativeAffixes().areEmpty());

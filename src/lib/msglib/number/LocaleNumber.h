@@ -14,23 +14,23 @@ class TextOutput;
 
 /// Numbers of one type, as the platform's locale values describe them.
 ///
-/// It gives the pattern for the formatter that a factory makes, and the text of a number at once,
-/// which is the text that such a formatter writes.
+/// It provides the pattern for a factory's formatter, and renders numbers directly, with the same
+/// text as that formatter.
 class LocaleNumber {
 public:
-    /// Asks the platform for the digits and for the affixes of numbers that aren't negative. The
-    /// other operations ask for what else they need.
+    /// Queries the digit counts and the positive affixes. The other operations query the remaining
+    /// values that they use.
     explicit LocaleNumber(NumberFormat::FormatType type) noexcept;
 
-    /// Returns plain numbers without a fraction: the pattern of `NumberFormat::Number`, followed by
+    /// Returns the object for plain numbers without a fraction: `NumberFormat::Number` after
     /// `setMaximumFractionDigits(0)`.
     static LocaleNumber rounded() noexcept;
 
-    /// Returns whether the platform knows the locale. If it doesn't, this object describes the
-    /// numbers of the factories' fallback patterns.
+    /// Returns whether the platform has the locale. If not, this object describes the factories'
+    /// fallback patterns.
     bool isKnown() const noexcept { return isKnown_; }
 
-    /// Returns the pattern for `DecimalFormat`: "#,##0.00;-#".
+    /// Returns the pattern for `DecimalFormat`, such as "#,##0.00;-#".
     std::string pattern() const;
 
     /// Appends an argument of any numeric kind as the factory's formatter would.
@@ -51,7 +51,7 @@ private:
     NumberFormat::FormatType type_;
     bool isKnown_;
     bool hasLeadingZero_ = true;
-    std::size_t groupSize_ = 3; ///< 0: no groups
+    std::size_t groupSize_ = 3; ///< 0 without grouping
     std::size_t minimumFractionDigits_ = 0;
     std::size_t maximumFractionDigits_ = 0;
     Affixes affixes_; ///< with 0xA4 for the currency symbol

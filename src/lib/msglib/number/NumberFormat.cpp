@@ -5,6 +5,10 @@
 #include "number/LocaleNumber.h"
 #include "number/NumberArgument.h"
 
+// The factories ask `LocaleNumber` for the locale's pattern and create a `DecimalFormat` with it;
+// on a platform without the locale, they use a fixed pattern. The setters keep each minimum at or
+// below its maximum.
+
 namespace zem::msglib {
 
 namespace {

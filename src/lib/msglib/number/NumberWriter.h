@@ -9,21 +9,20 @@
 #include <limits>
 #include <string_view>
 
-/// Puts the text of a number together: sign, prefix, digits, exponent and suffix.
+/// Writes the text of a number: sign, prefix, digits, exponent and suffix.
 ///
-/// How a number looks comes from a *form*, which answers these questions:
+/// The appearance of a number comes from a *form*, a class with these operations:
 ///
-///     positiveAffixes(), negativeAffixes()     an empty negative affix falls back to its positive
-///                                              twin
-///     isEmpty(affix), appendAffix(affix, out)  what an affix comes to
+///     positiveAffixes(), negativeAffixes()     an empty negative affix is replaced by the positive
+///                                              one
+///     isEmpty(affix), appendAffix(affix, out)  for the text of an affix, with symbols filled in
 ///     appendMinusSign(out)                     the sign of numbers without negative affixes
-///     multiplier(), rounding()                 what the magnitude is multiplied with, and what is
-///                                              added to it after that
-///     scale(x), appendExponent(exponent, out)  exponential notation; without it, neither changes
-///                                              anything
-///     digitLayout(), infinity(), naN()         the digits, and the texts of numbers without digits
+///     multiplier(), rounding()                 the magnitude is multiplied by the first; then the
+///                                              second is added
+///     scale(x), appendExponent(exponent, out)  exponential notation; both do nothing without it
+///     digitLayout(), infinity(), naN()         the digits, and the texts of values without digits
 ///
-/// A form is passed by reference: copying its buffers would cost more than all the rest.
+/// Forms are passed by reference: copying their buffers would take longer than everything else.
 namespace zem::msglib {
 
 /// A number divided by 10 to the power `exponent`.
@@ -32,7 +31,7 @@ struct ScaledNumber {
     std::int64_t exponent;
 };
 
-/// Appends sign and affixes, and what `appendDigits()` appends between them.
+/// Appends sign, prefix, what `appendDigits()` appends, and suffix.
 template <class Form, class AppendDigits>
 void writeSigned(bool negative, const Form& form, TextOutput& out, AppendDigits appendDigits) {
     Affixes affixes = form.positiveAffixes();
@@ -51,11 +50,11 @@ void writeSigned(bool negative, const Form& form, TextOutput& out, AppendDigits 
     form.appendAffix(affixes.suffix, out);
 }
 
-/// Appends a number without its sign.
+/// Appends a magnitude, which is not negative and not NaN.
 template <class Form>
 void writeMagnitude(double magnitude, const Form& form, TextOutput& out) {
     const ScaledNumber scaled = form.scale(magnitude * form.multiplier());
-    // The only rounding there is. All further digits are cut off.
+    // This is the only rounding. All further digits are cut off.
     const double x = scaled.number + form.rounding();
     if (x == std::numeric_limits<double>::infinity()) {
         out.append(form.infinity());
@@ -65,7 +64,7 @@ void writeMagnitude(double magnitude, const Form& form, TextOutput& out) {
     form.appendExponent(scaled.exponent, out);
 }
 
-/// Appends any number.
+/// Appends any number, including NaN and the infinities.
 template <class Form>
 void writeNumber(double value, const Form& form, TextOutput& out) {
     if (std::isnan(value)) {

@@ -9,15 +9,14 @@
 
 namespace zem::msglib {
 
-// The last bits of pow and log depend on the C library and the processor, so digits that came from
-// them would, too. These tables take their place. The index of an entry is its exponent minus the
-// first one.
+// The last bits of `pow` and `log` depend on the C library and the processor, and the digits would
+// too. These tables replace both. The index of an entry is its exponent minus the first exponent.
 static_assert(std::size(powersOfTen) == lastPowerOfTen - firstPowerOfTen + 1);
 static_assert(std::size(exponentDistances) == std::size(powersOfTen));
 
 namespace {
 
-// Positive doubles are ordered as their bits are.
+// Positive doubles have the same order as their bits.
 std::int64_t bitsOf(double x) noexcept {
     std::int64_t bits = 0;
     static_assert(sizeof bits == sizeof x);
@@ -25,7 +24,7 @@ std::int64_t bitsOf(double x) noexcept {
     return bits;
 }
 
-std::int64_t leastBitsWithExponentAt(std::size_t index) noexcept {
+std::int64_t lowestBitsWithExponentAt(std::size_t index) noexcept {
     return bitsOf(powersOfTen[index]) + exponentDistances[index];
 }
 
@@ -42,14 +41,15 @@ double powerOfTen(std::int64_t exponent) noexcept {
 }
 
 int decimalExponent(double x) noexcept {
-    // The binary exponent leaves two decimal ones, or a few where x is subnormal. With f for the
-    // exponent field, x is less than 2 to the power f - 1022, so that the index is at most
-    // (f - 1022) * log10(2) + 324. Both constants are rounded up, in units of 2 to the power -20.
+    // For each binary exponent, two decimal exponents are possible, and a few more if x is
+    // subnormal. The search begins at the highest. With f for the exponent field, x is less than 2
+    // to the power f - 1022, so the index is at most (f - 1022) * log10(2) + 324. Both constants
+    // are in units of 2 to the power -20 and rounded up.
     constexpr std::int64_t log10Of2 = 315653;
     constexpr std::int64_t indexOfLeastNormal = 17141434;
     const std::int64_t bits = bitsOf(x);
     auto index = static_cast<std::size_t>(((bits >> 52) * log10Of2 + indexOfLeastNormal) >> 20);
-    while (bits < leastBitsWithExponentAt(index)) {
+    while (bits < lowestBitsWithExponentAt(index)) {
         --index;
     }
     return static_cast<int>(index) + firstPowerOfTen;

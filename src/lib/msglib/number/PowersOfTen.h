@@ -12,7 +12,7 @@ double powerOfTen(std::int64_t exponent) noexcept;
 /// Returns floor(log(x) / log(10.0)) for a positive finite `x`, where `log` and the division round
 /// to the nearest double.
 ///
-/// That isn't the exponent of the first digit everywhere: 1000 has 2, since its quotient is
+/// This is not always the exponent of the first digit: 1000 has 2, since the quotient is
 /// 2.9999999999999996.
 int decimalExponent(double x) noexcept;
 

@@ -5,17 +5,19 @@
 /// Locale values, date and time pictures, and calendar arithmetic.
 ///
 /// The operations have the names, numbers and conventions of the operating system that the library
-/// was designed for. A length includes the terminator, size 0 asks for the length, and the result 0
+/// was designed for. A length includes the terminator, size 0 queries the length, and the result 0
 /// is a failure, whose reason `GetLastError` returns.
 ///
-/// Threads: all operations may run at once.
+/// Threads: all operations may run concurrently.
 namespace zem::msglib::platform {
 
-/// The locale identifier of every query: English, with no country chosen.
+/// The locale identifier of every query: English, without a country.
 constexpr std::uint32_t localeIdentifier = 9;
 
+/// The flag of `IsValidLocale`.
 constexpr std::uint32_t LCID_INSTALLED = 1;
 
+// The numbers of the locale values that the library queries.
 constexpr std::uint32_t LOCALE_SDECIMAL = 14;
 constexpr std::uint32_t LOCALE_STHOUSAND = 15;
 constexpr std::uint32_t LOCALE_SGROUPING = 16;
@@ -43,7 +45,7 @@ struct FILETIME {
     std::uint32_t dwHighDateTime;
 };
 
-/// A point in time as calendar fields; months and days count from 1, Sunday is 0.
+/// A point in time as calendar fields. Months and days count from 1, week days from Sunday, 0.
 struct SYSTEMTIME {
     std::uint16_t wYear;
     std::uint16_t wMonth;
@@ -58,26 +60,26 @@ struct SYSTEMTIME {
 /// Writes one value of a locale, with its terminator, into the `size` bytes at `buffer`.
 ///
 /// @param lctype  one of the `LOCALE_` numbers above
-/// @return the bytes written, or needed if `size` is 0; 0 for an unknown locale (87), an unknown
+/// @return the bytes written, or required if `size` is 0; 0 for an unknown locale (87), an unknown
 ///         value (1004) and a buffer that is too short (122)
 int GetLocaleInfoA(std::uint32_t locale, std::uint32_t lctype, char* buffer, int size) noexcept;
 
-/// Returns the full identifier for an incomplete one, or what it was given.
+/// Returns the full identifier for one without a country, and any other identifier unchanged.
 std::uint32_t ConvertDefaultLocale(std::uint32_t locale) noexcept;
 
-/// Returns whether values of `locale` can be asked for; `flags` is `LCID_INSTALLED`.
+/// Returns whether the platform has the values of `locale`; `flags` is `LCID_INSTALLED`.
 bool IsValidLocale(std::uint32_t locale, std::uint32_t flags) noexcept;
 
-/// Writes a date by a picture: runs of `d`, `M`, `y` and `g` as fields, quoted text and any other
-/// byte as they are.
+/// Writes a date by a picture: runs of `d`, `M`, `y` and `g` become fields; quoted text and any
+/// other byte are copied.
 ///
 /// The week day is computed from the date. The time of day is ignored.
 ///
 /// @param flags    0
 /// @param date     year 1601 to 30827, and a day that exists
 /// @param picture  NUL-terminated
-/// @return the bytes written with terminator, or needed if `size` is 0; 0 for a wrong date (87) and
-///         a buffer that is too short (122)
+/// @return the bytes written with terminator, or required if `size` is 0; 0 for an invalid date
+///         (87) and a buffer that is too short (122)
 int GetDateFormatA(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* date,
                    const char* picture, char* buffer, int size) noexcept;
 
@@ -89,7 +91,7 @@ int GetTimeFormatA(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* 
 
 /// Converts calendar fields to a count. The week day is ignored.
 ///
-/// @return false for fields that are no time (87)
+/// @return false for fields that aren't a valid time (87)
 bool SystemTimeToFileTime(const SYSTEMTIME* time, FILETIME* count) noexcept;
 
 /// Converts a count to calendar fields.

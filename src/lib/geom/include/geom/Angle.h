@@ -2,12 +2,13 @@
 
 namespace zem::geom {
 
-/// An angle. The object begins with its size in radians, which is all that other libraries rely on.
+/// An angle. The object begins with its size in radians; other libraries rely on nothing else.
 ///
-/// A plain value: copies are independent, and reading one from several threads is safe.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class Angle {
 public:
-    /// Makes an angle of `radians`; any binary64 is accepted and kept as it is.
+    /// Makes an angle of `radians`; any binary64 is accepted and stored unchanged.
     explicit constexpr Angle(double radians) noexcept : radians_(radians) {}
 
     /// Returns the size in radians.

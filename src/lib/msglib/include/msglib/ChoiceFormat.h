@@ -8,7 +8,7 @@
 
 namespace zem::msglib {
 
-/// Picks one of a list of texts by a number, by a pattern such as "0#none|1#one|1<many".
+/// Chooses one of several texts by a number, as a pattern describes: "0#none|1#one|1<many".
 ///
 ///     pattern = segment { ( "|" | unmatched "}" ) segment }
 ///     segment = limit ( "#" | "<" | "+" ) text
@@ -20,15 +20,17 @@ namespace zem::msglib {
 /// A limit is read as formatted extraction from a stream reads a `double`, by the global
 /// `std::locale`. Characters that aren't a number count as 0. Nothing sorts or checks the limits.
 ///
-/// Braces in a text must match, and "|" between them is plain. "''" is one apostrophe. Any other
-/// apostrophe with at least two more bytes after it makes the first of them plain and drops the
-/// second: "'{'" is a brace, and "it's here" becomes "itshere".
+/// Braces in a text must match, and a "|" between them is plain text. "''" is one apostrophe. Any
+/// other apostrophe with at least two more bytes after it makes the first of them plain text and
+/// drops the second: "'{'" is a brace, and "it's here" becomes "itshere".
 ///
-/// In a message, the chosen text is a message pattern. This class by itself appends it as it is.
+/// In a message, the chosen text is a message pattern. This class alone appends it unchanged.
 ///
-/// Compiling takes time linear in the pattern, choosing in the number of texts.
+/// Compiling takes time linear in the length of the pattern, choosing in the number of texts. The
+/// text appended is at most as long as the pattern.
 ///
-/// Threads: const operations may run at once on one object; every other operation needs it alone.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class MSGLIB_API ChoiceFormat : public NumberFormat {
 public:
     /// Compiles `pattern`.
@@ -44,12 +46,12 @@ public:
 
     ~ChoiceFormat() override;
 
-    /// Replaces the compiled pattern by that of `pattern`.
+    /// Compiles `pattern` in place of the present one.
     ///
-    /// A failure leaves the segments before the failing one.
+    /// After a failure, the object holds the segments before the failing one.
     ///
     /// @throws std::runtime_error "Syntax error in choice format." for a segment without a
-    ///         separator, such as the empty one after a "|" at the end
+    ///         separator, such as the empty one after a trailing "|"
     void applyPattern(const std::string& pattern);
 
     using NumberFormat::format;
@@ -65,11 +67,11 @@ public:
     std::string& format(double value, std::string& out) const override;
 
     /// Returns the next `double` above `value`. NaN, the infinities and the largest finite value
-    /// stay themselves.
+    /// are returned unchanged.
     static double nextDouble(double value);
 
     /// Returns the next `double` below `value`. NaN, the infinities and the lowest finite value
-    /// stay themselves.
+    /// are returned unchanged.
     static double previousDouble(double value);
 
     /// Returns `nextDouble(value)` if `positive`, and otherwise `previousDouble(value)`.

@@ -6,15 +6,16 @@
 
 namespace zem::msglib {
 
-/// Base of the formatters of points in time.
+/// Base class of the formatters of points in time.
 ///
 /// The static factories return a new `SimpleDateFormat`, which the caller owns. Its pattern comes
 /// from the platform's locale values.
 ///
-/// Threads: const operations may run at once on one object; every other operation needs it alone.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class MSGLIB_API DateFormat : public Format {
 public:
-    /// Which of the locale's date patterns is meant.
+    /// Selects one of the locale's date patterns.
     enum Style : int {
         Short,         ///< the locale's short date
         Long,          ///< the locale's long date
@@ -30,15 +31,15 @@ public:
 
     /// Returns a new formatter of dates in `style`.
     ///
-    /// The formatter has the empty pattern for a value outside the enumeration, and where the
-    /// platform doesn't have the locale value.
+    /// The pattern is empty if `style` is outside the enumeration or the platform lacks the locale
+    /// value.
     ///
-    /// @param locale  kept in the formatter; selects nothing
+    /// @param locale  stored in the formatter; doesn't affect the text
     ///
     ///     getDateInstance(DateFormat::Short, locale) with 0 -> "1/1/1970"
     static DateFormat* getDateInstance(Style style, const std::locale& locale);
 
-    /// Returns a new formatter of the time of day, by the locale's pattern.
+    /// Returns a new formatter of the time of day, with the locale's pattern.
     ///
     ///     getTimeInstance(locale) with 0 -> "12:00:00 AM"
     static DateFormat* getTimeInstance(const std::locale& locale);

@@ -9,7 +9,7 @@
 
 namespace zem::msglib {
 
-/// Writes numbers by a pattern such as "#,##0.00;(#,##0.00)".
+/// Formats numbers by a pattern such as "#,##0.00;(#,##0.00)".
 ///
 ///     pattern    = subpattern [ ";" subpattern ]
 ///     subpattern = affix number affix
@@ -19,24 +19,25 @@ namespace zem::msglib {
 ///     exponent   = { "#" } { "0" }
 ///     affix      = any text without . , # 0 E ; and, in a prefix, %
 ///
-/// - A "0" is a digit that is always written, a "#" one that is written unless it is a zero at the
-///   start of an integer or at the end of a fraction. A "#" of the exponent has no effect.
-/// - A "," separates groups. Their size is the number of marks after the last ",".
+/// - A "0" is a digit that is always written. A "#" is a digit that is left out if it is a leading
+///   zero of the integer or a trailing zero of the fraction. A "#" of the exponent has no effect.
+/// - A "," turns grouping on. The group size is the number of marks after the last ",".
 /// - In an affix, "''" is one apostrophe. An apostrophe, any byte and an apostrophe are that byte
 ///   as plain text.
-/// - The byte 0xA4 in an affix is the local currency symbol, twice in a row the international one.
-///   Either selects the monetary separators.
+/// - The byte 0xA4 in an affix is the local currency symbol; two in a row are the international
+///   one. Either selects the monetary separators.
 /// - A "%" in a suffix multiplies by 100.
-/// - The second subpattern is for negative numbers, and only its affixes count. An empty one falls
-///   back to its positive twin. If both are empty, the minus sign comes first.
+/// - The second subpattern is for negative numbers, and only its affixes count. An empty negative
+///   affix is replaced by the positive one. If both are empty, the text begins with the minus sign.
 ///
 /// The object has its own copy of the symbols.
 ///
-/// Compiling takes time linear in the pattern, rendering in the text. The text of a number has at
-/// most 309 integer digits, or as many as the fewest asked for, and as many fraction digits as the
-/// pattern allows, besides separators, exponent and affixes.
+/// Compiling takes time linear in the length of the pattern, rendering in the length of the text.
+/// The text has at most 309 integer digits, or the minimum if that is larger, and at most as many
+/// fraction digits as the pattern allows. Separators, exponent and affixes come on top.
 ///
-/// Threads: const operations may run at once on one object; every other operation needs it alone.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class MSGLIB_API DecimalFormat : public NumberFormat {
 public:
     /// Compiles `pattern`, with a copy of `symbols`.
@@ -57,10 +58,10 @@ public:
 
     ~DecimalFormat() override;
 
-    /// Replaces the compiled pattern by that of `pattern`. Compiling overwrites what the setters
+    /// Compiles `pattern` in place of the present one. Compiling overwrites what the setters
     /// stored and keeps the symbols.
     ///
-    /// A failure leaves the formatter as far as compiling got.
+    /// After a failure, the object holds the parts of `pattern` before the failing one.
     ///
     /// @throws std::runtime_error with one of these texts:
     ///         "digit mark (#) following zero-index", "zero mark following digit",
@@ -70,9 +71,8 @@ public:
 
     using NumberFormat::format;
 
-    /// Appends the text of a whole number. The multiplier isn't applied, nothing is rounded, and
-    /// the fraction is as many zeros as the fewest fraction digits. A pattern with an exponent
-    /// writes `value` as a `double`.
+    /// Appends the text of a whole number, without multiplier and rounding. The fraction consists
+    /// of the minimum number of zeros. A pattern with an exponent formats `value` as a `double`.
     ///
     ///     "#,##0.###"  -1234567 -> "-1,234,567"      "#,##0%"  5 -> "5%"
     ///
@@ -82,10 +82,10 @@ public:
     /// Appends the text of a number.
     ///
     /// Rounding adds half a unit of the last fraction digit to the magnitude, as a sum of two
-    /// `double`, and cuts the rest. The stored value decides: ties of whole numbers go away from
-    /// zero, while a tie in the fraction may go either way. Integer digits are exact below 2 to the
-    /// power 53; above that they are what repeated division of a `double` by ten gives. Integer
-    /// digits beyond the maximum are dropped.
+    /// `double`, and cuts off the digits after it. The stored value decides: ties of whole numbers
+    /// go away from zero, while a tie in the fraction may go either way. Integer digits are exact
+    /// below 2 to the power 53; above that they come from repeated division of a `double` by ten.
+    /// Integer digits beyond the maximum are dropped.
     ///
     /// @param value  any binary64; NaN and the infinities have texts of their own
     /// @throws nothing of its own
@@ -97,14 +97,14 @@ public:
 private:
     friend class DecimalForm;
 
-    std::size_t parseAffix(const std::string& pattern, std::size_t pos, std::string& affix,
+    std::size_t parseAffix(const std::string& pattern, std::size_t position, std::string& affix,
                            bool suffix);
-    std::size_t parseStatic(const std::string& pattern, std::size_t pos, std::string& text,
+    std::size_t parseStatic(const std::string& pattern, std::size_t position, std::string& text,
                             bool suffix);
-    std::size_t parsePattern(const std::string& pattern, std::size_t pos, bool negative);
-    std::size_t parseInteger(const std::string& pattern, std::size_t pos, bool negative);
-    std::size_t parseFraction(const std::string& pattern, std::size_t pos, bool negative);
-    std::size_t parseExponent(const std::string& pattern, std::size_t pos, bool negative);
+    std::size_t parsePattern(const std::string& pattern, std::size_t position, bool negative);
+    std::size_t parseInteger(const std::string& pattern, std::size_t position, bool negative);
+    std::size_t parseFraction(const std::string& pattern, std::size_t position, bool negative);
+    std::size_t parseExponent(const std::string& pattern, std::size_t position, bool negative);
     void reset();
 
     static const std::string_view patternChars_;

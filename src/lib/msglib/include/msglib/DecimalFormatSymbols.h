@@ -7,18 +7,19 @@
 
 namespace zem::msglib {
 
-/// The texts and characters that a number is written with.
+/// The texts and characters that numbers are formatted with.
 ///
-/// A value that changes only by assignment; copies are independent. The texts are the platform's
-/// bytes and of any length, empty ones included. A moved-from object holds unspecified texts.
+/// An object changes only by assignment; copies are independent. The texts are the platform's
+/// bytes and may have any length, including zero. A moved-from object holds unspecified texts.
 ///
-/// Threads: const operations may run at once on one object; every other operation needs it alone.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class MSGLIB_API DecimalFormatSymbols {
 public:
-    /// Asks the platform for the locale's symbols. A symbol that the platform doesn't have stays at
-    /// the starting value that its getter names.
+    /// Reads the locale's symbols from the platform. A symbol that the platform lacks has the
+    /// default that its getter names.
     ///
-    /// @param locale  selects nothing: every query is for one fixed locale
+    /// @param locale  ignored: every query is for one fixed locale
     ///
     ///     DecimalFormatSymbols().getGroupingSeparator() -> ","
     DecimalFormatSymbols(const std::locale& locale = std::locale());
@@ -26,51 +27,51 @@ public:
     /// Copies everything; the copy is independent.
     DecimalFormatSymbols(const DecimalFormatSymbols& other);
 
-    /// Takes everything from `other`.
+    /// Moves everything out of `other`.
     DecimalFormatSymbols(DecimalFormatSymbols&& other) noexcept;
 
     /// Copies everything; the copy is independent. Assigning an object to itself changes nothing.
     DecimalFormatSymbols& operator=(const DecimalFormatSymbols& other);
 
-    /// Takes everything from `other`.
+    /// Moves everything out of `other`.
     DecimalFormatSymbols& operator=(DecimalFormatSymbols&& other) noexcept;
 
     ~DecimalFormatSymbols();
 
-    /// The local currency symbol; starts as "$".
+    /// Returns the local currency symbol; default "$".
     std::string getCurrencySymbol() const { return currencySymbol_; }
 
-    /// The text of infinity; always "1.#INF".
+    /// Returns the text of infinity; always "1.#INF".
     std::string getInfinity() const { return infinity_; }
 
-    /// The international currency symbol; starts as "$".
+    /// Returns the international currency symbol; default "$".
     std::string getInternationalCurrencySymbol() const { return internationalCurrencySymbol_; }
 
-    /// The minus sign; starts as "-".
+    /// Returns the minus sign; default "-".
     std::string getMinusSign() const { return minusSign_; }
 
-    /// The text of not-a-number; always "1.#NaN".
+    /// Returns the text of NaN; always "1.#NaN".
     std::string getNaN() const { return naN_; }
 
-    /// The decimal separator of plain numbers; starts as ".".
+    /// Returns the decimal separator of plain numbers; default ".".
     std::string getDecimalSeparator() const { return decimalSeparator_; }
 
-    /// The decimal separator of amounts; starts as ".".
+    /// Returns the decimal separator of amounts; default ".".
     std::string getMonetaryDecimalSeparator() const { return monetaryDecimalSeparator_; }
 
-    /// The group separator of plain numbers; starts as ",".
+    /// Returns the group separator of plain numbers; default ",".
     std::string getGroupingSeparator() const { return groupingSeparator_; }
 
-    /// The group separator of amounts; starts as ",".
+    /// Returns the group separator of amounts; default ",".
     std::string getMonetaryGroupingSeparator() const { return monetaryGroupingSeparator_; }
 
-    /// The percent sign; always '%'. Patterns write '%' whatever this is.
+    /// Returns the percent sign; always '%'. Patterns use '%' and ignore this.
     char getPercent() const { return percent_; }
 
-    /// The digit zero; starts as '0'. The other digits are the nine bytes after it.
+    /// Returns the digit zero; default '0'. The other digits are the nine bytes after it.
     char getZeroDigit() const { return zeroDigit_; }
 
-    /// The mark before an exponent; always 'E'.
+    /// Returns the character before an exponent; always 'E'.
     char getExponential() const { return exponential_; }
 
 private:

@@ -1,13 +1,13 @@
 #pragma once
 
 #if !defined(__GXX_RTTI) && !defined(_CPPRTTI)
-#error "msglib tells arguments apart by run-time type information: compile without -fno-rtti"
+#error "msglib identifies argument types by run-time type information: compile without -fno-rtti"
 #endif
 
-/// Marks what the library makes public; every other symbol stays inside it.
+/// Marks a declaration that the library exports; every other symbol is hidden.
 ///
-/// `MSGLIB_STATIC` is defined for users of the static library and `MSGLIB_BUILDING` while the
-/// library itself is compiled. The CMake target sets both.
+/// `MSGLIB_STATIC` is defined for users of the static library, `MSGLIB_BUILDING` while the library
+/// itself is compiled. The CMake target defines both.
 #if defined(MSGLIB_STATIC)
 #define MSGLIB_API
 #elif defined(_WIN32)

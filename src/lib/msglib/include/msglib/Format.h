@@ -8,10 +8,10 @@
 
 namespace zem::msglib {
 
-/// Root of all formatters: renders one argument as text.
+/// Base class of all formatters: renders one argument as text.
 ///
 /// An argument is a `boost::any`. Its kind is the exact type that it holds: no value is converted
-/// before its kind is tested. Formatters read the kinds like this:
+/// before its kind is tested. Formatters interpret the kinds as follows:
 ///
 /// | Held type                                     | Number formats | Date formats          |
 /// |-----------------------------------------------|----------------|-----------------------|
@@ -22,14 +22,15 @@ namespace zem::msglib {
 /// | `zem::geom::Angle`                            | degrees        | fails                 |
 /// | `std::string`, any other type, an empty `any` | fails          | fails                 |
 ///
-/// `MessageFormat` describes what a placeholder without a type makes of each kind. `long` and
+/// `MessageFormat` describes how a placeholder without a type renders each kind. `long` and
 /// `unsigned long` are 32 bits wide in this library: a value outside that range throws
 /// `std::out_of_range`.
 ///
-/// Formatters are values: copies are independent. Copies of a `MessageFormat` share formatters that
-/// never change.
+/// Formatters are values: copies are independent. Copies of a `MessageFormat` share formatters,
+/// which never change.
 ///
-/// Threads: const operations may run at once on one object; every other operation needs it alone.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class MSGLIB_API Format {
 public:
     Format() = default;
@@ -37,13 +38,13 @@ public:
     Format& operator=(const Format&) = default;
     virtual ~Format();
 
-    /// Appends the text of `value` to `out` and returns `out`, which keeps what it held.
+    /// Appends the text of `value` to `out` and returns `out`; earlier bytes are kept.
     ///
-    /// @throws std::runtime_error if the formatter doesn't read this kind; `out` is unchanged then
+    /// @throws std::runtime_error if the formatter doesn't accept the kind; `out` is unchanged then
     /// @throws std::out_of_range  for a `long` or `unsigned long` outside its 32-bit range
     virtual std::string& format(const boost::any& value, std::string& out) const = 0;
 
-    /// Returns the text of `value` alone. Fails as the virtual operation does.
+    /// Returns the text of `value`. Throws what the virtual operation throws.
     ///
     ///     DecimalFormat("#,##0", symbols).format(1234) -> "1,234"
     std::string format(const boost::any& value);

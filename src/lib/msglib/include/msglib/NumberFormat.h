@@ -9,20 +9,21 @@ namespace zem::msglib {
 
 class DecimalFormat;
 
-/// Base of the formatters of numbers: digit limits, the grouping switch and the reading of
-/// arguments.
+/// Base class of the formatters of numbers: digit limits, the grouping switch and the conversion of
+/// arguments to numbers.
 ///
 /// The static factories return a new `DecimalFormat`, which the caller owns. Its pattern comes from
-/// the platform's locale values. A `ChoiceFormat` keeps the limits at zero and never reads them.
+/// the platform's locale values. A `ChoiceFormat` has limits of zero and ignores them.
 ///
-/// Digit limits are counts, and callers keep them non-negative. No minimum exceeds its maximum: a
-/// setter changes the other limit of its pair where that is needed. Compiling a pattern overwrites
+/// Digit limits are counts; callers must not pass negative ones. No minimum exceeds its maximum: a
+/// setter also changes the other limit of its pair if necessary. Compiling a pattern overwrites
 /// what the setters stored.
 ///
-/// Threads: const operations may run at once on one object; every other operation needs it alone.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class MSGLIB_API NumberFormat : public Format {
 public:
-    /// What a factory makes a formatter for.
+    /// The use that a factory creates a formatter for.
     enum FormatType : int { Number, Integer, Currency, Percent };
 
     NumberFormat(const NumberFormat&) = default;
@@ -31,9 +32,9 @@ public:
 
     using Format::format;
 
-    /// Appends the text of a number held by exact type (see `Format`), read as one `double`.
+    /// Appends the text of a numeric argument (see `Format`), converted to `double`.
     ///
-    /// Integers of 64 bits become the nearest `double`. An `Angle` of `r` radians reads as
+    /// Integers of 64 bits become the nearest `double`. An `Angle` of `r` radians becomes
     /// `(r * 180.0) / 3.141592653589793`.
     ///
     /// @throws std::runtime_error "Argument is not a number." for any other kind, text included
@@ -48,17 +49,17 @@ public:
     /// Appends the text of `value` to `out` and returns `out`.
     virtual std::string& format(double value, std::string& out) const = 0;
 
-    /// Returns a new formatter by the locale's pattern for plain numbers.
+    /// Returns a new formatter with the locale's pattern for plain numbers.
     ///
-    /// @param locale  selects nothing: every value is the platform's for one fixed locale
+    /// @param locale  ignored: every query is for one fixed locale
     /// @throws std::runtime_error as `DecimalFormat::applyPattern` does, if the platform's values
-    ///         make no pattern
+    ///         form no valid pattern
     ///
     ///     getNumberInstance(locale) with 1234.5 -> "1,234.50"
     static NumberFormat* getNumberInstance(const std::locale& locale);
 
-    /// Returns a new formatter of whole numbers, as `getNumberInstance` does. A value that isn't
-    /// whole is rounded, unless the platform doesn't know the locale: the pattern is then
+    /// Returns a new formatter of whole numbers, as `getNumberInstance` does. Other values are
+    /// rounded, except on a platform that doesn't have the locale: the pattern is then
     /// "#,##0.###".
     static NumberFormat* getIntegerInstance(const std::locale& locale);
 
@@ -68,38 +69,38 @@ public:
     /// Returns a new formatter of percentages, as `getNumberInstance` does: 0.25 becomes "25.00%".
     static NumberFormat* getPercentInstance(const std::locale& locale);
 
-    /// Returns whether a separator stands between groups of integer digits.
+    /// Returns whether integer digits are grouped.
     bool getGroupingUsed() const { return groupingUsed_; }
 
-    /// Returns the most fraction digits that are written. It also fixes the rounding position.
+    /// Returns the maximum number of fraction digits. It also determines the rounding position.
     int getMaximumFractionDigits() const { return maximumFractionDigits_; }
 
-    /// Returns the most integer digits that are written. Higher digits are dropped.
+    /// Returns the maximum number of integer digits. Higher digits are dropped.
     int getMaximumIntegerDigits() const { return maximumIntegerDigits_; }
 
-    /// Returns how many fraction digits are always written.
+    /// Returns the minimum number of fraction digits. Shorter fractions are padded with zeros.
     int getMinimumFractionDigits() const { return minimumFractionDigits_; }
 
-    /// Returns how many integer digits are always written, with leading zeros.
+    /// Returns the minimum number of integer digits. Shorter numbers are padded with zeros.
     int getMinimumIntegerDigits() const { return minimumIntegerDigits_; }
 
-    /// Switches grouping. The group size is the pattern's.
+    /// Switches grouping on or off. The pattern determines the group size.
     void setGroupingUsed(bool value);
 
-    /// Sets the most fraction digits, and lowers their minimum to it if need be.
+    /// Sets the maximum number of fraction digits, and lowers the minimum to it if necessary.
     void setMaximumFractionDigits(int value);
 
-    /// Sets the most integer digits, and lowers their minimum to it if need be.
+    /// Sets the maximum number of integer digits, and lowers the minimum to it if necessary.
     void setMaximumIntegerDigits(int value);
 
-    /// Sets the fewest fraction digits, and raises their maximum to it if need be.
+    /// Sets the minimum number of fraction digits, and raises the maximum to it if necessary.
     void setMinimumFractionDigits(int value);
 
-    /// Sets the fewest integer digits, and raises their maximum to it if need be.
+    /// Sets the minimum number of integer digits, and raises the maximum to it if necessary.
     void setMinimumIntegerDigits(int value);
 
 protected:
-    /// All limits zero and grouping off, until a derived class sets them.
+    // All limits are zero and grouping is off until a derived class sets them.
     NumberFormat() = default;
 
     bool groupingUsed_ = false;     ///< see `getGroupingUsed`

@@ -10,7 +10,7 @@ namespace zem::msglib {
 
 class TextOutput;
 
-/// Writes a point in time by a pattern such as "yyyy-MM-dd HH:mm:ss".
+/// Formats a point in time by a pattern such as "yyyy-MM-dd HH:mm:ss".
 ///
 ///     pattern = { run | "'" text "'" | other }
 ///     run     = one letter of d M y g h H m s t, any number of times
@@ -26,23 +26,24 @@ class TextOutput;
 /// | s      | second      | s "5", ss "05"                                      |
 /// | t      | marker      | t "A", tt "AM"                                      |
 ///
-/// Text between apostrophes and every other byte are appended as they are. "''" is an apostrophe
-/// inside quoted text, and nothing outside it. No pattern is wrong: an apostrophe without a partner
-/// quotes the rest.
+/// Text between apostrophes and every other byte are appended unchanged. "''" is an apostrophe
+/// inside quoted text, and nothing outside it. Every pattern is valid: an apostrophe without a
+/// partner quotes the rest.
 ///
-/// A point in time is a count of whole seconds since 1970-01-01 00:00:00. The fields are those of
-/// that count in UTC. For a count outside the years 1601 to 30827 the fields are left out.
+/// A point in time is a count of whole seconds since 1970-01-01 00:00:00 UTC, and the fields are in
+/// UTC. For a count outside the years 1601 to 30827 the fields are left out.
 ///
-/// Rendering takes time linear in the pattern. A run appends 9 bytes at most.
+/// Rendering takes time linear in the length of the pattern. A run appends at most 9 bytes.
 ///
-/// Threads: const operations may run at once on one object; every other operation needs it alone.
+/// Threads: const operations on one object may run concurrently; every other operation needs
+/// exclusive access to it.
 class MSGLIB_API SimpleDateFormat : public DateFormat {
 public:
-    /// Keeps `pattern` and `locale`. The locale selects nothing: month names and the like are those
-    /// of one fixed locale.
+    /// Stores `pattern` and `locale`. The locale doesn't affect the text: names of days and months
+    /// are those of one fixed locale.
     SimpleDateFormat(const std::string& pattern, const std::locale& locale);
 
-    /// Keeps `pattern`, moved into the object, and `locale`.
+    /// Stores `pattern`, moved into the object, and `locale`.
     SimpleDateFormat(std::string&& pattern, const std::locale& locale);
 
     /// Copies everything; the copy is independent.
@@ -58,9 +59,9 @@ public:
 
     using DateFormat::format;
 
-    /// Appends the text of a count of seconds, held in any of the kinds that `Format` lists. The
-    /// fraction of a `float` or `double` is cut off towards zero, and an `unsigned long long` with
-    /// the top bit set counts as negative.
+    /// Appends the text of a count of seconds, of any of the kinds that `Format` lists. The
+    /// fraction of a `float` or `double` is cut off towards zero. An `unsigned long long` with the
+    /// top bit set is a negative count.
     ///
     ///     "yyyy-MM-dd HH:mm:ss"  1000000000 -> "2001-09-09 01:46:40"  -1 -> "1969-12-31 23:59:59"
     ///     "h 'o''clock'"         0          -> "12 o'clock"

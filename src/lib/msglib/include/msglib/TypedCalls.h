@@ -10,31 +10,31 @@
 
 /// What the functions of a generated header `<Name>Calls.h` share.
 ///
-/// Such a function has the name of a message and takes its arguments:
+/// Each function has the symbol of a message as its name and takes the message's arguments:
 ///
 ///     AppMessages::MSG_COPIED(7, folder).toString()
 ///
 /// It returns the `MessageFormatStream` of the message with these arguments. Each argument has a
-/// kind, which follows from how the message uses it. A value of another type does not compile, and
-/// neither does a wrong number of arguments; the error names message, argument and kind. What
-/// compiles costs what the same stream costs when it is written by hand.
+/// kind, which follows from how the message uses it. A value of another kind does not compile, and
+/// neither does a wrong number of arguments; the error names message, argument and kind. A call
+/// costs as much as the same stream written by hand.
 ///
-/// A kind is a class of two members: `accepts<Value>` is whether values of the type are of the
-/// kind, and `add` appends one to a stream.
+/// A kind is a class with two members: `accepts<Value>` is true if values of that type are of the
+/// kind, and `add` adds one to a stream.
 ///
 /// | Kind      | Values                                                                         |
 /// |-----------|--------------------------------------------------------------------------------|
-/// | `Number`  | arithmetic types, but of the character types only `signed` and `unsigned char` |
+/// | `Number`  | arithmetic types; of the character types only `signed` and `unsigned char`     |
 /// | `Time`    | `std::chrono::system_clock` times; seconds, as a number other than `bool`      |
-/// | `Seconds` | numbers other than `bool`: for an argument that is used as number and as time  |
+/// | `Seconds` | numbers other than `bool`, for an argument that is both a number and a time    |
 /// | `Text`    | what converts to `std::string_view`                                            |
-/// | `Any`     | numbers, texts, and whatever else can be streamed, but no other stream         |
+/// | `Any`     | numbers, texts, and any other type that can be streamed, except streams        |
 ///
-/// Enumerations are no numbers; unscoped ones can be streamed. `nullptr` is of no kind. A `const
-/// char*` must not be null.
+/// Enumerations aren't numbers, but unscoped ones can be streamed. `nullptr` is of no kind. A
+/// `const char*` must not be null.
 namespace zem::msglib::typed {
 
-/// Whether a type holds a character, so that it is no number although it is arithmetic.
+/// True for an arithmetic type that holds a character and is therefore not a number.
 template <class Value>
 inline constexpr bool isCharacter = false;
 /// A character type.
@@ -55,14 +55,14 @@ template <>
 inline constexpr bool isCharacter<char8_t> = true;
 #endif
 
-/// Whether a type is a time of the system's clock, of any precision.
+/// True for a time of the system's clock, of any precision.
 template <class Value>
 inline constexpr bool isSystemTime = false;
 template <class Duration>
 inline constexpr bool isSystemTime<std::chrono::time_point<std::chrono::system_clock, Duration>> =
     true;
 
-/// Whether a stream of a message takes values of a type as arguments; other streams are none.
+/// True if a message stream accepts values of the type as arguments; false for message streams.
 template <class Value, class = void>
 inline constexpr bool isStreamable = false;
 template <class Value>
@@ -70,16 +70,16 @@ inline constexpr bool isStreamable<Value, std::void_t<decltype(std::declval<Mess
                                                                << std::declval<const Value&>())>> =
     !std::is_base_of_v<MessageFormatStream, Value>;
 
-/// A number. Integers keep their type, but `long` goes as `long long`, since the `long` of an
-/// argument has 32 bits. Floating-point numbers go as `double`.
+/// A number. Integers keep their type, except that `long` becomes `long long`, since a `long`
+/// argument has 32 bits. Floating-point numbers become `double`.
 struct Number {
-    /// Integers beyond 64 bits, which some compilers have, are none.
+    /// Some compilers have integers of more than 64 bits, which are not accepted.
     template <class Value>
     static constexpr bool accepts = std::is_floating_point_v<Value> ||
                                     (std::is_integral_v<Value> && !isCharacter<Value> &&
                                      sizeof(Value) <= sizeof(long long));
 
-    /// Adds a value that is accepted as an argument.
+    /// Adds an accepted value as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, Value value) {
         if constexpr (std::is_floating_point_v<Value>) {
@@ -96,11 +96,11 @@ struct Number {
 
 /// A point in time as seconds since 1970-01-01 00:00:00, which may also be used as a number.
 struct Seconds {
-    /// Whether values of a type are accepted.
+    /// True for the types whose values are accepted.
     template <class Value>
     static constexpr bool accepts = Number::accepts<Value> && !std::is_same_v<Value, bool>;
 
-    /// Integers go as 64 bits, whatever width they have.
+    /// Adds an accepted value. Integers of any width become 64 bits wide.
     template <class Value>
     static void add(MessageFormatStream& stream, Value value) {
         if constexpr (std::is_floating_point_v<Value>) {
@@ -116,11 +116,11 @@ struct Seconds {
 /// A point in time: `Seconds`, or a time of the system's clock in any unit, rounded down to whole
 /// seconds.
 struct Time {
-    /// Whether values of a type are accepted.
+    /// True for the types whose values are accepted.
     template <class Value>
     static constexpr bool accepts = Seconds::accepts<Value> || isSystemTime<Value>;
 
-    /// Adds a value that is accepted as an argument.
+    /// Adds an accepted value as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, const Value& value) {
         if constexpr (isSystemTime<Value>) {
@@ -132,14 +132,14 @@ struct Time {
     }
 };
 
-/// A text, of which the stream keeps a copy.
+/// A text. The stream stores a copy.
 struct Text {
-    /// Whether values of a type are accepted.
+    /// True for the types whose values are accepted.
     template <class Value>
     static constexpr bool accepts =
         std::is_convertible_v<const Value&, std::string_view> && !std::is_null_pointer_v<Value>;
 
-    /// Adds a value that is accepted as an argument.
+    /// Adds an accepted value as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, const Value& value) {
         if constexpr (std::is_same_v<Value, std::string> || !std::is_class_v<Value>) {
@@ -151,14 +151,14 @@ struct Text {
     }
 };
 
-/// A value that the message shows as it is.
+/// A value of any kind, for a placeholder without a type.
 struct Any {
-    /// Whether values of a type are accepted.
+    /// True for the types whose values are accepted.
     template <class Value>
     static constexpr bool accepts = Number::accepts<Value> || Text::accepts<Value> ||
                                     (isStreamable<Value> && !std::is_null_pointer_v<Value>);
 
-    /// Adds a value that is accepted as an argument.
+    /// Adds an accepted value as an argument.
     template <class Value>
     static void add(MessageFormatStream& stream, const Value& value) {
         if constexpr (Number::accepts<Value>) {
@@ -171,7 +171,7 @@ struct Any {
     }
 };
 
-/// Adds a value as its kind does, or nothing if the kind does not accept it.
+/// Adds a value by its kind, or nothing if the kind doesn't accept it.
 template <class Kind, class Value>
 void addAccepted(MessageFormatStream& stream, const Value& value) {
     if constexpr (Kind::template accepts<Value>) {
@@ -179,17 +179,17 @@ void addAccepted(MessageFormatStream& stream, const Value& value) {
     }
 }
 
-/// False, but only known where a function is called: for functions that cannot be.
+/// Always false, but dependent: for a `static_assert` in an overload that rejects every call.
 template <class... Values>
 inline constexpr bool never = false;
 
-/// Returns the stream of a message with its arguments, each added as its kind does.
+/// Returns the stream of a message with its arguments, each added by its kind.
 ///
-/// A value that its kind does not accept adds nothing: the caller has refused it, and this gives no
-/// second error.
+/// A value that its kind doesn't accept adds nothing: the caller has already reported the error,
+/// and a second one would hide it.
 template <class... Kinds, class... Values>
 inline MessageFormatStream stream(unsigned int messageId, const Values&... values) {
-    MessageFormatStream result(messageId); // returned in place; what << returns would be copied
+    MessageFormatStream result(messageId); // the reference that << returns would be copied
     (addAccepted<Kinds>(result, values), ...);
     return result;
 }

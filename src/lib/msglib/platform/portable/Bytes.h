@@ -5,10 +5,10 @@
 
 namespace zem::msglib::platform {
 
-/// A view of bytes that nothing is known of: every access is checked, and none needs alignment.
+/// A view of untrusted bytes: every access is checked, and none requires alignment.
 ///
-/// The bytes must outlive the view. Numbers are read in little-endian order; one that does not lie
-/// inside the view whole is 0.
+/// The bytes must outlive the view. Numbers are read in little-endian order; a number that isn't
+/// wholly inside the view is 0.
 class Bytes {
 public:
     constexpr Bytes() noexcept = default;
@@ -19,17 +19,17 @@ public:
     const unsigned char* data() const noexcept { return data_; }
     std::size_t size() const noexcept { return size_; }
 
-    /// Tells whether `count` bytes from `offset` on lie inside.
+    /// Returns whether `count` bytes from `offset` on are inside the view.
     bool holds(std::size_t offset, std::size_t count) const noexcept {
         return offset <= size_ && count <= size_ - offset;
     }
 
-    /// Returns `count` bytes from `offset` on, or none at all if they do not lie inside.
+    /// Returns `count` bytes from `offset` on, or none if they aren't all inside.
     Bytes part(std::size_t offset, std::size_t count) const noexcept {
         return holds(offset, count) ? Bytes(data_ + offset, count) : Bytes();
     }
 
-    /// Returns what follows the first `offset` bytes.
+    /// Returns the bytes from `offset` on, or none if that is outside.
     Bytes from(std::size_t offset) const noexcept {
         return offset <= size_ ? Bytes(data_ + offset, size_ - offset) : Bytes();
     }

@@ -8,14 +8,15 @@
 /// Gregorian calendar arithmetic without a loop, after Howard Hinnant's chrono-Compatible low-level
 /// date algorithms.
 ///
-/// It counts years from March, so that the leap day is the last of its year, in eras of 400 years.
-/// The first era here begins on 1600-03-01, 306 days before day 0, and nothing is ever negative.
+/// Years begin in March, so the leap day is the last day of its year, and form eras of 400 years.
+/// The first era begins on 1600-03-01, 306 days before day 0, so no number is ever negative.
 namespace zem::msglib::platform {
 
-/// The years that can be turned into a count and written.
+/// The years that can be converted and formatted.
 constexpr std::uint32_t firstYear = 1601;
 constexpr std::uint32_t lastYear = 30827;
 
+// The length of an era, the year in which the first one begins, and the days from then to day 0.
 constexpr std::uint32_t eraDays = 146097;
 constexpr std::uint32_t eraStartYear = 1600;
 constexpr std::uint32_t eraStartToDayZero = 306;
@@ -29,13 +30,13 @@ struct CalendarDate {
     std::uint32_t day;
 };
 
-/// Returns how many days a month has.
+/// Returns the number of days in a month.
 constexpr std::uint32_t daysIn(std::uint32_t month, std::uint32_t year) noexcept {
     const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
     return month == 2 && leap ? 29 : monthDays[static_cast<std::size_t>(month) - 1];
 }
 
-/// Tells whether the year is in range and the calendar has the day.
+/// Returns whether the year is in range and the day exists.
 constexpr bool isCalendarDate(const CalendarDate& date) noexcept {
     constexpr std::uint32_t shortest = 28;
     return date.year >= firstYear && date.year <= lastYear && date.month >= 1 && date.month <= 12 &&
@@ -51,9 +52,9 @@ constexpr std::uint32_t daysOfDate(const CalendarDate& date) noexcept {
     return year * 365 + year / 4 - year / 100 + year / 400 + dayOfYear - eraStartToDayZero;
 }
 
-/// Returns the date that lies `days` days, at most a billion, behind 1601-01-01.
+/// Returns the date `days` days, at most a billion, after 1601-01-01.
 ///
-/// Years and months are found by multiplications that give quotient and remainder at once; by
+/// Years and months come from multiplications that give quotient and remainder together, after
 /// "Euclidean affine functions and their application to calendar algorithms" of Cassio Neri and
 /// Lorenz Schneider.
 constexpr CalendarDate dateOfDays(std::uint32_t days) noexcept {
@@ -68,17 +69,17 @@ constexpr CalendarDate dateOfDays(std::uint32_t days) noexcept {
             (month >> 16) - (beforeMarch ? 12 : 0), (month & 0xFFFF) / 2141 + 1};
 }
 
-/// Returns the week day of the day `days` behind 1601-01-01, which was a Monday; Sunday is 0.
+/// Returns the week day `days` days after 1601-01-01, which was a Monday; Sunday is 0.
 constexpr std::uint32_t weekDayOfDays(std::uint32_t days) noexcept {
     return (days + 1) % 7;
 }
 
-/// Returns the date of `time`, whether the calendar has it or not.
+/// Returns the date of `time`, whether it exists or not.
 constexpr CalendarDate dateOf(const SYSTEMTIME& time) noexcept {
     return {time.wYear, time.wMonth, time.wDay};
 }
 
-/// Tells whether hour, minute, second and milliseconds are those of a day without leap seconds.
+/// Returns whether hour, minute, second and milliseconds are in range, without leap seconds.
 constexpr bool isTimeOfDay(const SYSTEMTIME& time) noexcept {
     return time.wHour <= 23 && time.wMinute <= 59 && time.wSecond <= 59 &&
            time.wMilliseconds <= 999;

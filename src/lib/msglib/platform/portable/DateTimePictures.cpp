@@ -7,14 +7,19 @@
 #include <cstring>
 #include <string_view>
 
+// A date or time and a picture go in, text in the caller's buffer comes out. The picture is read
+// run by run: a run of a field letter is replaced by the field, other runs and quoted text are
+// copied. Each field is written to a small array first, since the caller's buffer may be too short;
+// a picture that is a single field is written directly if the buffer certainly has space for it.
+
 namespace zem::msglib::platform {
 
 namespace {
 
-/// No field is longer, and every write of one may touch as many bytes.
+/// The size of the longest field. Writing any field may overwrite as many bytes.
 constexpr int longestField = 12;
 
-/// The name of a day or month, in as many bytes as every name is copied with.
+/// The name of a day or month, in an array of the size that is always copied.
 struct Name {
     char text[longestField];
     std::size_t length;
@@ -29,8 +34,8 @@ constexpr Name monthNames[] = {{"January", 7},   {"February", 8}, {"March", 5}, 
                                {"May", 3},       {"June", 4},     {"July", 4},     {"August", 6},
                                {"September", 9}, {"October", 7},  {"November", 8}, {"December", 8}};
 
-/// Writes a name or, for a run of three letters, its abbreviation. This and all below return where
-/// the field ends.
+/// Writes a name or, for a run of three letters, its abbreviation. Returns the end of the field, as
+/// all functions below do.
 char* writeName(const Name& name, std::size_t runLength, char* at) noexcept {
     std::memcpy(at, name.text, sizeof name.text);
     return at + (runLength == 3 ? abbreviationLength : name.length);
@@ -73,7 +78,7 @@ char* writeText(std::string_view text, char* at) noexcept {
     return at;
 }
 
-/// Writes the field that a run asks for; null if the letter names none.
+/// Writes the field of a run; returns null if the letter isn't a field letter.
 char* writeDateField(const SYSTEMTIME& time, char letter, std::size_t runLength,
                      char* at) noexcept {
     const CalendarDate date = dateOf(time);
@@ -86,7 +91,7 @@ char* writeDateField(const SYSTEMTIME& time, char letter, std::size_t runLength,
     }
 }
 
-/// Writes the field that a run asks for; null if the letter names none.
+/// Writes the field of a run; returns null if the letter isn't a field letter.
 char* writeTimeField(const SYSTEMTIME& time, char letter, std::size_t runLength,
                      char* at) noexcept {
     constexpr unsigned int noon = 12;
@@ -110,8 +115,8 @@ const char* endOfRun(const char* run) noexcept {
     return end;
 }
 
-/// Appends the quoted text from `at` on and returns what follows it. A doubled quote is a quote,
-/// and without a closing one the text goes to the end.
+/// Appends the quoted text from `at` on and returns the position after it. A doubled apostrophe is
+/// a plain one; without a closing apostrophe, the text extends to the end.
 const char* appendQuoted(const char* at, TextBuffer& out) noexcept {
     for (; *at != '\0'; ++at) {
         if (*at == '\'' && *++at != '\'') {
@@ -141,7 +146,7 @@ template <class WriteField>
     return out.finish();
 }
 
-/// Writes a whole picture. One field that surely fits is written to where it belongs.
+/// Writes a whole picture; a single field that certainly fits goes directly into the buffer.
 template <class WriteField>
 int writePicture(const SYSTEMTIME& time, const char* picture, WriteField writeField, char* buffer,
                  int size) noexcept {
@@ -156,7 +161,7 @@ int writePicture(const SYSTEMTIME& time, const char* picture, WriteField writeFi
     return writeRuns(time, picture, writeField, buffer, size);
 }
 
-/// Tests what both operations demand of their arguments alike, and leaves the reason of a refusal.
+/// Checks the requirements that both operations share, and sets the last error if one isn't met.
 bool acceptsRequest(std::uint32_t locale, std::uint32_t flags, const SYSTEMTIME* time,
                     const char* picture, const char* buffer, int size) noexcept {
     const bool valid = isKnownLocale(locale) && time != nullptr && picture != nullptr &&

@@ -6,7 +6,7 @@
 
 namespace zem::msglib::platform {
 
-/// Leaves `reason` for the next `GetLastError` of the calling thread.
+/// Sets the result of `GetLastError` on the calling thread.
 void setLastError(std::uint32_t reason) noexcept;
 
 } // namespace zem::msglib::platform

@@ -5,19 +5,22 @@
 #include <cstring>
 #include <string_view>
 
+// The values of the one locale, in a table that the compiler builds. Every entry has the same size,
+// so a value is copied by instructions of a fixed length if the caller's buffer has space for it.
+
 namespace zem::msglib::platform {
 
 namespace {
 
-/// A value with its terminator, in as many bytes as every value is copied with.
+/// A value with its terminator, in an array of the size that is always copied.
 struct Value {
     char text[24];
-    int size; ///< with the terminator; 0 for a number that names no value
+    int size; ///< with the terminator; 0 for a number without a value
 };
 
 constexpr std::size_t slots = LOCALE_SNEGATIVESIGN + 3;
 
-/// Returns where the table has the value of a number; a slot without one for all that name none.
+/// Returns the index of a number's value in the table; an empty slot for a number without a value.
 constexpr std::size_t slotOf(std::uint32_t lctype) noexcept {
     if (lctype <= LOCALE_SNEGATIVESIGN) {
         return lctype;

@@ -20,7 +20,7 @@ std::uint32_t failure(std::uint32_t reason) noexcept {
     return 0;
 }
 
-/// Returns a terminated copy, to be released by `LocalFree`; null if memory has run out.
+/// Returns a terminated copy, to be released by `LocalFree`; null if memory runs out.
 char16_t* copyOf(const MessageText& text) noexcept {
     const std::size_t length = text.length();
     auto* copy = static_cast<char16_t*>(std::malloc((length + 1) * sizeof(char16_t)));

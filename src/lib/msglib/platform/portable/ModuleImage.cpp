@@ -7,6 +7,10 @@
 #include <algorithm>
 #include <cstring>
 
+// A module is represented by the address of its mapped ELF header. `moduleHolding` asks the loader
+// for all modules and returns the one with a segment that contains an address. `findInModule` reads
+// the program headers from memory and searches the note segments for the message.
+
 namespace zem::msglib::platform {
 
 namespace {
@@ -14,7 +18,7 @@ namespace {
 using FileHeader = ElfW(Ehdr);
 using ProgramHeader = ElfW(Phdr);
 
-/// The program headers of one module and what their addresses are relative to.
+/// The program headers of one module and the base of their addresses.
 struct Layout {
     const ProgramHeader* headers;
     std::size_t count;
@@ -27,7 +31,7 @@ struct Layout {
         return reinterpret_cast<const void*>(bias + address);
     }
 
-    /// Tells whether the file's bytes from `address` on are mapped for reading.
+    /// Returns whether `size` bytes of the file from `address` on are mapped for reading.
     bool maps(std::uintptr_t address, std::size_t size) const noexcept {
         return std::any_of(begin(), end(), [=](const ProgramHeader& header) {
             const std::uintptr_t offset = address - header.p_vaddr;
@@ -36,7 +40,7 @@ struct Layout {
         });
     }
 
-    /// Returns the segment that begins with the file's first byte, which is the ELF header; null if
+    /// Returns the segment that begins with the first byte of the file, the ELF header; null if
     /// there is none.
     const ProgramHeader* fileStart() const noexcept {
         const auto* found = std::find_if(begin(), end(), [](const ProgramHeader& header) {
@@ -52,7 +56,7 @@ bool holds(const Layout& layout, std::uintptr_t address) noexcept {
     });
 }
 
-/// Returns the mapped ELF header, if it and the program headers that it names can be read there.
+/// Returns the mapped ELF header if it and its program headers are mapped for reading, or null.
 const void* mappedHeader(const Layout& layout) noexcept {
     const ProgramHeader* start = layout.fileStart();
     if (start == nullptr || !layout.maps(start->p_vaddr, sizeof(FileHeader))) {

@@ -7,16 +7,16 @@
 
 namespace zem::msglib::platform {
 
-/// Returns the module whose image holds `address`: where its ELF header is mapped. Null if there is
-/// none, or if its headers are not in memory.
+/// Returns the module whose image contains `address`, as the address of its mapped ELF header; null
+/// if there is none or its headers aren't in memory.
 ///
-/// Asks the loader, which takes its lock.
+/// Calls the loader, which takes its lock. Takes time linear in the number of modules.
 HMODULE moduleHolding(const void* address) noexcept;
 
 /// Finds a message in the note segments of a module that `moduleHolding` has returned and that is
 /// still loaded.
 ///
-/// Reads memory and nothing else: no lock, no call of the loader, no allocation.
+/// Only reads memory: no lock, no call of the loader, no allocation.
 MessageText findInModule(HMODULE module, std::uint32_t languageId,
                          std::uint32_t messageId) noexcept;
 

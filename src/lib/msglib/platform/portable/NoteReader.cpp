@@ -11,7 +11,7 @@ constexpr std::uint32_t tableType = 0x4d544231;
 constexpr std::size_t noteHeaderSize = 12;
 constexpr std::size_t tableHeaderSize = 8;
 
-/// Reads a number that the assembler has written, in the byte order of the machine.
+/// Reads a number in the byte order of the machine, in which the assembler writes it.
 std::uint32_t nativeU32(Bytes bytes, std::size_t offset) noexcept {
     std::uint32_t value = 0;
     if (bytes.holds(offset, sizeof value)) {
@@ -40,7 +40,7 @@ MessageText findInNotes(Bytes notes, std::size_t alignment, std::uint32_t langua
                         std::uint32_t messageId) noexcept {
     const std::uint64_t unit = alignment == 8 ? 8 : 4;
     const auto aligned = [unit](std::uint64_t offset) { return (offset + unit - 1) & ~(unit - 1); };
-    // 64 bits, so that two lengths of 32 bits cannot wrap on any machine.
+    // With 64 bits, the sum of two lengths of 32 bits can't wrap around on any machine.
     std::uint64_t offset = 0;
     while (offset < notes.size()) {
         const Bytes rest = notes.from(static_cast<std::size_t>(offset));

@@ -5,6 +5,10 @@
 #include <algorithm>
 #include <cstring>
 
+// `TableReader` finds a message by a binary search over the blocks and a walk over the entries
+// inside one. `MessageText` measures the text up to its first NUL, eight units at a time, and
+// copies it. Both stay inside bounds that `Bytes` has checked.
+
 namespace zem::msglib::platform {
 
 namespace {
@@ -17,14 +21,14 @@ constexpr std::uint16_t utf16Flag = 1;
 
 constexpr std::uint32_t unitsAtOnce = 8;
 
-/// Has a bit set if one of the four units in a word is NUL, in either byte order. After "Determine
-/// if a word has a zero byte" of Sean Anderson's Bit Twiddling Hacks.
+/// Returns a word that differs from 0 if one of the four units in `units` is NUL, in either byte
+/// order. After "Determine if a word has a zero byte" of Sean Anderson's Bit Twiddling Hacks.
 constexpr std::uint64_t nulUnits(std::uint64_t units) noexcept {
     constexpr std::uint64_t everyUnit = 0x0001'0001'0001'0001;
     return (units - everyUnit) & ~units & everyUnit << 15;
 }
 
-/// Tells whether one of the eight units from `at` on is NUL.
+/// Returns whether one of the eight units from `at` on is NUL.
 bool hasNulUnit(const unsigned char* at) noexcept {
     std::uint64_t words[2];
     std::memcpy(words, at, sizeof words);
@@ -63,19 +67,19 @@ MessageText TableReader::find(std::uint32_t messageId) const noexcept {
     return textAt(table_.u32(block + 8), messageId - lowest);
 }
 
-/// Returns the offset of the first block that ends at or behind `messageId`; the table's size if
-/// none does. The search halves without a branch that could be guessed wrong.
+/// Returns the offset of the first block that ends at or after `messageId`; the table's size if
+/// there is none. The search has no branch that the processor could predict wrongly.
 std::size_t TableReader::blockFor(std::uint32_t messageId) const noexcept {
-    const std::size_t room =
+    const std::size_t capacity =
         table_.holds(0, countSize) ? (table_.size() - countSize) / blockSize : 0;
-    const std::size_t blocks = std::min<std::size_t>(table_.u32(0), room);
+    const std::size_t blocks = std::min<std::size_t>(table_.u32(0), capacity);
     const std::size_t end = countSize + blocks * blockSize;
     std::size_t first = countSize;
     for (std::size_t count = blocks; count > 0;) {
         const std::size_t half = (count + 1) / 2;
-        const std::size_t behind = first + half * blockSize;
-        const bool endsBefore = table_.u32(behind - blockSize + 4) < messageId;
-        first = endsBefore ? behind : first;
+        const std::size_t next = first + half * blockSize;
+        const bool endsBefore = table_.u32(next - blockSize + 4) < messageId;
+        first = endsBefore ? next : first;
         count -= half;
     }
     return first < end ? first : table_.size();

@@ -7,22 +7,23 @@
 
 namespace zem::msglib::platform {
 
-/// The text of one message where it lies in its table, as UTF-16 units, or none.
+/// The text of one message inside its table, as UTF-16 units, or no text.
 ///
-/// It ends before the first NUL, or where its entry ends. It is small enough to be returned in
-/// registers.
+/// It ends before the first NUL or at the end of its entry. The table must outlive it. It is small
+/// enough to be returned in registers.
 class MessageText {
 public:
-    /// Makes an empty text, which stands for none.
+    /// Makes an empty text, which means that there is none.
     constexpr MessageText() noexcept = default;
 
     /// @param bytes      the text of an entry without its header, at most 65,535 bytes
     /// @param unitBytes  2 for UTF-16, 1 for bytes that are code points themselves
     MessageText(Bytes bytes, std::uint32_t unitBytes) noexcept;
 
-    /// Returns whether there is no text. A message without any unit counts as none.
+    /// Returns whether there is no text. A message without any unit counts as missing.
     bool isEmpty() const noexcept { return length_ == 0; }
 
+    /// Returns the number of units.
     std::size_t length() const noexcept { return length_; }
 
     /// Writes all units to `units`, without a terminator.
@@ -49,15 +50,15 @@ private:
 /// the table to the entry of the lowest; the other entries follow without a gap. The length of an
 /// entry includes its header.
 ///
-/// Any bytes are allowed: a damaged table lacks messages or has other texts, and nothing outside it
-/// is read.
+/// Any bytes are safe: a damaged table lacks messages or has wrong texts, but no byte outside it is
+/// read.
 class TableReader {
 public:
     explicit TableReader(Bytes table) noexcept : table_(table) {}
 
-    /// Returns the text of `messageId`, if there is one.
+    /// Returns the text of `messageId`, or no text.
     ///
-    /// Takes a binary search over the blocks and a linear one inside a block.
+    /// Takes time logarithmic in the number of blocks and linear in the entries of one block.
     MessageText find(std::uint32_t messageId) const noexcept;
 
 private:

@@ -8,19 +8,19 @@
 
 namespace zem::msglib::platform {
 
-/// Writes text into a caller's buffer and counts it, so that asking for a length and writing share
-/// their code.
+/// Writes text into a caller's buffer and counts its bytes, so that querying a length and writing
+/// share their code.
 ///
-/// What doesn't fit is counted and dropped. Size 0 asks: then nothing fits, and the buffer may be
-/// null.
+/// Bytes that don't fit are counted and dropped. Size 0 is a query: no byte fits, and the buffer
+/// may be null.
 class TextBuffer {
 public:
-    /// Tells whether `size` bytes at `buffer` can be written to, or are no bytes at all.
+    /// Returns whether `buffer` and `size` are a query or a buffer that can be written to.
     static constexpr bool accepts(const char* buffer, int size) noexcept {
         return size == 0 || (size > 0 && buffer != nullptr);
     }
 
-    /// Requires what `accepts` tests.
+    /// `accepts(buffer, size)` must be true.
     TextBuffer(char* buffer, int size) noexcept
         : buffer_(buffer),
           size_(static_cast<std::size_t>(size)) {}
@@ -33,9 +33,9 @@ public:
     }
 
     void append(std::string_view text) noexcept {
-        const std::size_t room = length_ < size_ ? size_ - length_ : 0;
+        const std::size_t space = length_ < size_ ? size_ - length_ : 0;
         std::size_t at = length_;
-        for (const char byte : text.substr(0, room)) {
+        for (const char byte : text.substr(0, space)) {
             buffer_[at++] = byte;
         }
         length_ += text.size();

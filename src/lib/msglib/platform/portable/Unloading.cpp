@@ -9,7 +9,7 @@ namespace {
 void (*unloadAction)(void*) = nullptr;
 std::atomic<void*> unloadObject = nullptr;
 
-// The lowest priority that is not reserved puts it after the function that destroys static objects.
+// With the lowest priority that isn't reserved, this runs after the destruction of static objects.
 [[gnu::destructor(101)]] void unload() {
     if (void* const object = unloadObject.load(std::memory_order_acquire)) {
         unloadAction(object);

@@ -7,6 +7,9 @@
 #include <cstddef>
 #include <cstring>
 
+// Converts UTF-16 to UTF-8: one code point at a time, except that runs of ASCII are copied in
+// blocks. Measuring takes the same steps without writing.
+
 namespace zem::msglib::platform {
 
 namespace {
@@ -20,7 +23,7 @@ bool isLowSurrogate(char32_t unit) noexcept {
     return unit >= 0xDC00 && unit < 0xE000;
 }
 
-/// Takes one code point off the front of `text`, which is not empty.
+/// Reads one code point from the front of `text`, which isn't empty, and advances `text` past it.
 char32_t nextCodePoint(const char16_t*& text, const char16_t* end) noexcept {
     const char32_t unit = *text++;
     if (isHighSurrogate(unit) && text != end && isLowSurrogate(*text)) {
@@ -31,7 +34,7 @@ char32_t nextCodePoint(const char16_t*& text, const char16_t* end) noexcept {
 
 constexpr std::size_t blockSize = 16;
 
-/// Tells whether each unit of a block is one byte, four units at a time.
+/// Returns whether all units of a block are ASCII; tests four units at a time.
 bool isAscii(const char16_t* block) noexcept {
     constexpr std::uint64_t otherBits = 0xFF80'FF80'FF80'FF80;
     std::uint64_t words[blockSize * sizeof *block / sizeof(std::uint64_t)];
@@ -39,7 +42,7 @@ bool isAscii(const char16_t* block) noexcept {
     return ((words[0] | words[1] | words[2] | words[3]) & otherBits) == 0;
 }
 
-/// The bytes of one code point.
+/// The UTF-8 bytes of one code point.
 struct Sequence {
     std::array<char, 4> bytes;
     std::size_t size;
@@ -64,11 +67,11 @@ Sequence encode(char32_t code) noexcept {
     return {{lead(0xF0, 18), trail(12), trail(6), trail(0)}, 4};
 }
 
-/// Takes units of one byte off the front of `text` and writes them, as long as there is room.
-/// Returns how many.
+/// Copies ASCII from the front of `text` to `output`, at most `capacity` bytes, and advances `text`
+/// past it. Returns the number of bytes.
 std::size_t copyAscii(const char16_t*& text, const char16_t* end, char* output,
-                      std::size_t room) noexcept {
-    const std::size_t most = std::min(static_cast<std::size_t>(end - text), room);
+                      std::size_t capacity) noexcept {
+    const std::size_t most = std::min(static_cast<std::size_t>(end - text), capacity);
     std::size_t count = 0;
     for (; most - count >= blockSize && isAscii(text + count); count += blockSize) {
         for (std::size_t i = 0; i < blockSize; ++i) {
@@ -93,17 +96,17 @@ int WideCharToMultiByte(std::uint32_t codePage, std::uint32_t, const char16_t* t
         setLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    const auto room = static_cast<std::size_t>(measuring ? INT_MAX : size);
+    const auto capacity = static_cast<std::size_t>(measuring ? INT_MAX : size);
     std::size_t written = 0;
     for (const char16_t* end = text + count; text != end;) {
         if (!measuring) {
-            written += copyAscii(text, end, output + written, room - written);
+            written += copyAscii(text, end, output + written, capacity - written);
         }
         if (text == end) {
             break;
         }
         const Sequence sequence = encode(nextCodePoint(text, end));
-        if (sequence.size > room - written) {
+        if (sequence.size > capacity - written) {
             setLastError(ERROR_INSUFFICIENT_BUFFER);
             return 0;
         }

@@ -1,6 +1,6 @@
 #include "platform/LocaleServices.h"
 
-// The system's header comes last: it defines macros of the same names as the constants above.
+// The system's header comes last: it defines macros with the names of our constants.
 #include <windows.h>
 
 namespace zem::msglib::platform {

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-// The system's header comes last: it defines macros of the same names as the constants above.
+// The system's header comes last: it defines macros with the names of our constants.
 #include <windows.h>
 
 namespace zem::msglib::platform {
@@ -16,7 +16,7 @@ static_assert(sizeof(char16_t) == sizeof(wchar_t));
 
 namespace {
 
-/// Tells whether `module` is a loaded image; the system would take a null one for the program
+/// Returns whether `module` is a loaded image. To the system, a null one would mean the program
 /// itself.
 bool isImage(HMODULE module) noexcept {
     ::MEMORY_BASIC_INFORMATION information{};

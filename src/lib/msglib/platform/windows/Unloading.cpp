@@ -6,8 +6,8 @@ namespace zem::msglib::platform {
 
 #if defined(MSGLIB_STATIC)
 
-// A program's own exit handlers take turns with its static objects. What is kept goes with the
-// process.
+// The exit handlers of a program run between the destructors of its static objects, so there is no
+// moment after all of them. The memory is released with the process.
 void callAtUnload(void (*)(void*), void*) noexcept {}
 
 #else
@@ -19,7 +19,7 @@ void* unloadObject = nullptr;
 
 } // namespace
 
-// A DLL has exit handlers of its own, which run when it is unloaded.
+// A DLL has its own exit handlers, which run when it is unloaded.
 void callAtUnload(void (*action)(void*), void* object) noexcept {
     unloadAction = action;
     unloadObject = object;

@@ -26,6 +26,7 @@ install(DIRECTORY src/lib/msglib/include/ src/lib/geom/include/
 if(TARGET ${MSGLIB_TOOL_TARGET} AND NOT CMAKE_CROSSCOMPILING)
     install(TARGETS ${MSGLIB_TOOL_TARGET} EXPORT msglibToolTargets RUNTIME COMPONENT Tools)
     install(EXPORT msglibToolTargets NAMESPACE msglib:: DESTINATION ${package_dir} COMPONENT Tools)
+    install(FILES docs/msglib.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Tools)
 endif()
 
 configure_package_config_file(cmake/msglibConfig.cmake.in

@@ -12,7 +12,7 @@ namespace {
 using namespace zem::msglib::tool;
 
 ExitStatus run(int argc, const char* const* argv) {
-    CLI::App program("Checks message catalogues and compiles them into modules.", "msglib");
+    CLI::App program("Checks, shows and compiles message catalogues.", "msglib");
     program.set_version_flag("--version", "msglib " + versionText());
     program.require_subcommand(1);
     program.footer("Examples:\n"
@@ -23,13 +23,13 @@ ExitStatus run(int argc, const char* const* argv) {
     Command chosen;
     addCompileCommand(program, chosen);
     addCheckCommand(program, chosen);
-    addDiffCommand(program, chosen);
-    addDumpCommand(program, chosen);
-    addQuoteCommand(program, chosen);
-    addRulesCommand(program, chosen);
-    addExplainRuleCommand(program, chosen);
     addRenderCommand(program, chosen);
     addExplainCommand(program, chosen);
+    addQuoteCommand(program, chosen);
+    addDumpCommand(program, chosen);
+    addDiffCommand(program, chosen);
+    addRulesCommand(program, chosen);
+    addExplainRuleCommand(program, chosen);
     try {
         program.parse(argc, argv);
     } catch (const CLI::Error& error) {

@@ -1,11 +1,18 @@
 #include "base/Scanning.h"
 
+#include "base/Compiler.h"
+
 #include <algorithm>
 #include <cstring>
 #include <iterator>
 
-#if defined(__SSE2__)
+// Microsoft's compiler has no macro for SSE2, which every 64-bit x86 processor has.
+#if defined(__SSE2__) || defined(_M_X64)
+#define MSGLIB_HAS_SSE2
 #include <emmintrin.h>
+#endif
+#if defined(_MSC_VER)
+#include <intrin.h>
 #endif
 
 namespace zem::msglib {
@@ -19,9 +26,20 @@ const char* findByBytes(const char* at, const char* end, char another) noexcept 
     return at;
 }
 
-#if defined(__SSE2__)
+#if defined(MSGLIB_HAS_SSE2)
 
 constexpr std::ptrdiff_t vectorSize = 16;
+
+// Returns the index of the lowest bit that is set. One must be.
+std::ptrdiff_t lowestBit(unsigned int bits) noexcept {
+#if defined(_MSC_VER)
+    unsigned long index = 0;
+    _BitScanForward(&index, bits);
+    return static_cast<std::ptrdiff_t>(index);
+#else
+    return __builtin_ctz(bits);
+#endif
+}
 
 // Returns a bit for each byte of a vector, the lowest for the first, that is set for syntax.
 unsigned int syntaxIn(const char* vector, char another) noexcept {
@@ -37,14 +55,14 @@ unsigned int syntaxIn(const char* vector, char another) noexcept {
 const char* findIn(std::string_view text, const char* at, const char* end, char another) noexcept {
     for (; end - at >= vectorSize; at += vectorSize) {
         if (const unsigned int found = syntaxIn(at, another)) {
-            return at + __builtin_ctz(found);
+            return at + lowestBit(found);
         }
     }
     if (end - text.data() < vectorSize) {
         return findByBytes(at, end, another);
     }
     const unsigned int found = syntaxIn(end - vectorSize, another) >> (vectorSize - (end - at));
-    return found != 0 ? at + __builtin_ctz(found) : end;
+    return found != 0 ? at + lowestBit(found) : end;
 }
 
 #else
@@ -58,8 +76,7 @@ const char* findIn(std::string_view, const char* at, const char* end, char anoth
 // Finds the first syntax of a long text, one byte after the other, as the C library does it
 // fastest. What is found for one byte is the end for the next, and windows keep rare ones from
 // being looked for far away.
-[[gnu::noinline]] const char* findByWindows(const char* at, const char* end,
-                                            char another) noexcept {
+MSGLIB_NOINLINE const char* findByWindows(const char* at, const char* end, char another) noexcept {
     constexpr std::ptrdiff_t windowSize = 8192;
     const char bytes[] = {quote, '{', '}', another};
     const bool isSyntaxAnyway = another == quote || another == '}';

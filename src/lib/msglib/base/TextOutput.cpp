@@ -1,5 +1,7 @@
 #include "base/TextOutput.h"
 
+#include "base/Compiler.h"
+
 namespace zem::msglib {
 
 void TextOutput::cutTo(std::size_t size) {
@@ -15,7 +17,7 @@ void TextOutput::finish() {
 }
 
 // Not inline, since every call of `append` would have to make room for it.
-[[gnu::noinline]] void TextOutput::appendBeyond(std::string_view text) {
+MSGLIB_NOINLINE void TextOutput::appendBeyond(std::string_view text) {
     finish();
     out_ += text;
 }

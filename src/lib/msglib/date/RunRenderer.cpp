@@ -1,5 +1,6 @@
 #include "date/RunRenderer.h"
 
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "platform/LastError.h"
 
@@ -42,7 +43,7 @@ void RunRenderer::append(PictureOperation operation, char letter, std::size_t le
 
 // Nearly all runs go without what follows, and need not make room for it.
 
-[[gnu::noinline]] void RunRenderer::appendThroughBuffer(PictureOperation operation,
+MSGLIB_NOINLINE void RunRenderer::appendThroughBuffer(PictureOperation operation,
                                                         const char* picture, TextOutput& out) {
     if (!appendGrown(operation, picture, out) && growFor(operation, picture)) {
         appendGrown(operation, picture, out);
@@ -57,7 +58,7 @@ bool RunRenderer::appendGrown(PictureOperation operation, const char* picture, T
 }
 
 // Makes room for the length that the platform asks for, if that is why it has refused a run.
-[[gnu::noinline]] bool RunRenderer::growFor(PictureOperation operation, const char* picture) {
+MSGLIB_NOINLINE bool RunRenderer::growFor(PictureOperation operation, const char* picture) {
     if (platform::GetLastError() != platform::ERROR_INSUFFICIENT_BUFFER) {
         return false;
     }
@@ -78,7 +79,7 @@ const char* RunRenderer::pictureOf(char letter, std::size_t length) {
     return shortPicture_;
 }
 
-[[gnu::noinline]] const char* RunRenderer::longPictureOf(char letter, std::size_t length) {
+MSGLIB_NOINLINE const char* RunRenderer::longPictureOf(char letter, std::size_t length) {
     return longPicture_.assign(length, letter).c_str();
 }
 

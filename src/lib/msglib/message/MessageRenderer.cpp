@@ -1,5 +1,6 @@
 #include "message/MessageRenderer.h"
 
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "message/PlaceholderStyle.h"
 #include "msglib/ChoiceFormat.h"
@@ -66,7 +67,7 @@ void MessageRenderer::renderPlaceholder(PlaceholderReader& reader) {
 }
 
 // Not inline, so that keywords need not make room for it.
-[[gnu::noinline]] void MessageRenderer::renderScanned(PlaceholderReader& reader,
+MSGLIB_NOINLINE void MessageRenderer::renderScanned(PlaceholderReader& reader,
                                                       const boost::any& argument) {
     ScannedText type;
     ScannedText style;
@@ -88,7 +89,7 @@ void MessageRenderer::renderStyled(PlaceholderReader& reader, std::string_view t
 }
 
 // Goes on with the text that a choice picks, a message of its own.
-[[gnu::noinline]] void MessageRenderer::enterChoice(PlaceholderReader& reader,
+MSGLIB_NOINLINE void MessageRenderer::enterChoice(PlaceholderReader& reader,
                                                     std::string_view style, ScannedText&& copy,
                                                     const boost::any& argument) {
     if (style.empty()) {

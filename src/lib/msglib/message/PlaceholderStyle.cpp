@@ -1,6 +1,7 @@
 #include "message/PlaceholderStyle.h"
 
 #include "base/Argument.h"
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "date/DateText.h"
 #include "date/LocaleDatePattern.h"
@@ -63,7 +64,7 @@ void buildNumber(FormatElement& element, const std::locale& locale) {
 
 // Not inline, so that texts need not make room for locale values.
 template <NumberFormat::FormatType type>
-[[gnu::noinline]] void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
+MSGLIB_NOINLINE void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
     LocaleNumber(type).appendArgument(argument, out);
 }
 

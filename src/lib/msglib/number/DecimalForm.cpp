@@ -1,5 +1,6 @@
 #include "number/DecimalForm.h"
 
+#include "base/Compiler.h"
 #include "number/NumberArgument.h"
 #include "number/PowersOfTen.h"
 
@@ -39,7 +40,7 @@ void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
 // Divides by the power of ten that brings as many digits before the point as the pattern asks for;
 // zero and infinity stay as they are. Like the other half of exponents it isn't inline, so that
 // numbers without an exponent need not make room for it.
-[[gnu::noinline]] ScaledNumber DecimalForm::scaleToExponent(double x) const {
+MSGLIB_NOINLINE ScaledNumber DecimalForm::scaleToExponent(double x) const {
     if (x == 0.0 || x == std::numeric_limits<double>::infinity()) {
         return {x, 0};
     }
@@ -48,7 +49,7 @@ void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
     return {dividedByPower(x, exponent), exponent};
 }
 
-[[gnu::noinline]] void DecimalForm::appendExponentDigits(std::int64_t exponent,
+MSGLIB_NOINLINE void DecimalForm::appendExponentDigits(std::int64_t exponent,
                                                          TextOutput& out) const {
     out.append(format_.symbols_.exponential_);
     if (exponent < 0) {

@@ -1,5 +1,6 @@
 #include "number/DigitWriter.h"
 
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "number/DigitTriples.h"
 #include "number/PowersOfTen.h"
@@ -228,7 +229,7 @@ void appendInAnyLayout(std::string_view whole, Fraction fraction, std::size_t fr
 }
 
 template <class Fraction>
-[[gnu::noinline]] void appendInAnyLayout(std::uint64_t whole, Fraction fraction,
+MSGLIB_NOINLINE void appendInAnyLayout(std::uint64_t whole, Fraction fraction,
                                          const DigitLayout& layout, TextOutput& out) {
     appendInAnyLayout(WholeDigits(whole).text(), fraction, mostFractionDigits, layout, out);
 }

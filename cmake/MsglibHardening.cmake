@@ -13,7 +13,11 @@ if(NOT MSGLIB_HARDENING OR MSGLIB_SANITIZE)
 endif()
 
 # The stack protector's functions may lie in a library of the compiler's, which it links for the option.
-if(WIN32)
+if(MSVC)
+    # The stack is protected by default, and addresses are random.
+    set(compile_options /guard:cf)
+    set(link_options LINKER:/guard:cf LINKER:/CETCOMPAT)
+elseif(WIN32)
     # Frames are probed page by page there anyway, and an image of GNU's tools can't tell of control-flow protection.
     set(compile_options -fstack-protector-strong)
     set(link_options
@@ -45,6 +49,9 @@ foreach(option IN LISTS link_options)
 endforeach()
 
 # Checked forms of C's functions need optimisation. A level that the compiler has by itself is replaced without a warning.
+if(MSVC)
+    return()
+endif()
 list(APPEND MSGLIB_HARDENING_COMPILE_OPTIONS
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE>
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)

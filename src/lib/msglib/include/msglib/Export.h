@@ -4,6 +4,12 @@
 #error "msglib tells arguments apart by run-time type information: compile without -fno-rtti"
 #endif
 
+// Microsoft's compiler warns of members of the standard library in exported classes. Their form is the same in the library
+// and in the program, since both have to be built with one run-time library anyway.
+#if defined(_MSC_VER)
+#pragma warning(disable : 4251)
+#endif
+
 /// Marks what the library makes public; every other symbol stays inside it.
 ///
 /// `MSGLIB_STATIC` is defined for users of the static library and `MSGLIB_BUILDING` while the

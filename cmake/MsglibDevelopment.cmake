@@ -18,9 +18,13 @@ if(NOT "${PROJECT_SOURCE_DIR}${PROJECT_BINARY_DIR}" MATCHES "[ '\"]")
     set(MSGLIB_PATH_LINK_OPTIONS ${MSGLIB_PATH_OPTIONS})
 endif()
 
-# Lets the linker optimise the shared library as a whole in release builds. A static one stays readable for any compiler.
-include(CheckIPOSupported)
-check_ipo_supported(RESULT MSGLIB_LINK_TIME_OPTIMISATION OUTPUT ignored LANGUAGES CXX)
+# Lets the linker optimise the shared library as a whole in release builds. A static one stays readable for any compiler. The
+# objects are linked into the tool and the tests too, where GNU's linker could not read clang's.
+set(MSGLIB_LINK_TIME_OPTIMISATION OFF)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    include(CheckIPOSupported)
+    check_ipo_supported(RESULT MSGLIB_LINK_TIME_OPTIMISATION OUTPUT ignored LANGUAGES CXX)
+endif()
 
 set(MSGLIB_WARNING_OPTIONS -Wall -Wextra -Wpedantic -Wconversion -Wshadow $<$<BOOL:${MSGLIB_WERROR}>:-Werror>)
 if(MSVC)

@@ -33,7 +33,7 @@ void appendNumber(std::string& bytes, std::uint32_t number) {
 // A note segment: a note that is no table, and one that holds the table.
 std::string notesOf(const std::string& table) {
     std::string notes;
-    for (const std::uint32_t number : {4, 0, 1}) {
+    for (const std::uint32_t number : {4U, 0U, 1U}) {
         appendNumber(notes, number);
     }
     notes.append("GNU\0", 4);

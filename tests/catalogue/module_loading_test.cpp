@@ -38,7 +38,7 @@ std::string renderBy(const char* path) {
 
 // `modules` come with the plug-in of `path` each time, and have to go with it.
 void expectNothingLeft(const char* path, std::size_t modules) {
-    constexpr std::size_t rounds = zem::msglib::runsUnderEmulator ? 100 : 1000;
+    constexpr std::size_t rounds = zem::msglib::runsUnderEmulator ? 250 : 1000;
     const std::size_t others = loadedModules();
     const std::string expected = "Plug-in 7\nPlug-in 9\n" + std::to_string(others + modules);
     std::size_t held = 0;

@@ -4,6 +4,12 @@
 include_guard(GLOBAL)
 
 set(MSGLIB_ARITHMETIC_OPTIONS -ffp-contract=off)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "MSVC")
+    # The default, /fp:precise, contracts in some versions.
+    set(MSGLIB_ARITHMETIC_OPTIONS /fp:strict)
+elseif(MSVC)
+    set(MSGLIB_ARITHMETIC_OPTIONS /clang:-ffp-contract=off)
+endif()
 set(MSGLIB_ARITHMETIC_PROBE ${CMAKE_CURRENT_LIST_DIR}/PlainArithmetic.cpp)
 
 # Stops the configuration if the flags of any build type relax arithmetic. The result isn't cached, since flags change.
@@ -23,7 +29,7 @@ endfunction()
 function(_msglib_probe_arithmetic)
     # The options that a parent project sets for all its targets.
     get_directory_property(options COMPILE_OPTIONS)
-    list(FILTER options INCLUDE REGEX "^-(O|.*math)")
+    list(FILTER options INCLUDE REGEX "^(-O|-.*math|[-/]fp:)")
     set(probe ${CMAKE_CURRENT_BINARY_DIR} ${MSGLIB_ARITHMETIC_PROBE}
         CMAKE_FLAGS -DINCLUDE_DIRECTORIES=${CMAKE_CURRENT_SOURCE_DIR}
         COMPILE_DEFINITIONS ${options} ${MSGLIB_ARITHMETIC_OPTIONS}

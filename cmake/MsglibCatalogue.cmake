@@ -131,9 +131,13 @@ function(_msglib_add_file target file namespace)
 
     _msglib_catalogue_folder(${target} folder)
     # The assembler block with the table must stay in the object file, and the registration function is local to the module.
+    set(options -fno-lto -fvisibility=hidden)
+    if(WIN32)
+        set(options)
+    endif()
     set_source_files_properties("${folder}/${name}.cpp" TARGET_DIRECTORY ${target} PROPERTIES
         GENERATED TRUE
-        COMPILE_OPTIONS "-fno-lto;-fvisibility=hidden"
+        COMPILE_OPTIONS "${options}"
         SKIP_PRECOMPILE_HEADERS TRUE
         SKIP_UNITY_BUILD_INCLUSION TRUE
         SKIP_AUTOGEN TRUE)
@@ -184,10 +188,11 @@ function(_msglib_compile_catalogues target)
         DEPENDS ${files} "${tool}"
         COMMENT "Compiling the message catalogues of ${target}"
         VERBATIM)
+    _msglib_add_step(${target} "${stamp}")
     if(WIN32)
         msglib_add_resource(${target} "${folder}/messages.rc" "${stamp}")
+        add_dependencies(${target}_resources ${target}_catalogues)
     endif()
-    _msglib_add_step(${target} "${stamp}")
     set_target_properties(${target} PROPERTIES MSGLIB_CATALOGUE_STATE "compiled")
 endfunction()
 
@@ -209,20 +214,16 @@ endfunction()
 
 # msglib_add_resource(<target> <file.rc> [<dependency>...])
 #
-# Compiles a resource script into a module for Windows. As a source of the target, the script would be compiled with the
-# target's options for C++. The files that the script names are in its folder.
+# Compiles a resource script into a module for Windows, by the compiler that CMake has for the language RC. It is a source of
+# <target>_resources, since as a source of the target it would be compiled with the target's options for C++. The files that
+# the script names are in its folder.
 function(msglib_add_resource target script)
     cmake_path(GET script PARENT_PATH folder)
-    cmake_path(GET script FILENAME name)
-    set(object "${script}.obj")
-    add_custom_command(
-        OUTPUT "${object}"
-        COMMAND "${CMAKE_RC_COMPILER}" -O coff "${name}" "${name}.obj"
-        DEPENDS "${script}" ${ARGN}
-        WORKING_DIRECTORY "${folder}"
-        COMMENT "Compiling resources of ${target}"
-        VERBATIM)
-    set_source_files_properties("${object}" TARGET_DIRECTORY ${target} PROPERTIES
-        GENERATED TRUE EXTERNAL_OBJECT TRUE)
-    target_sources(${target} PRIVATE "${object}")
+    set(resources ${target}_resources)
+    add_library(${resources} OBJECT "${script}")
+    # The options of the folder are for C++ too.
+    set_target_properties(${resources} PROPERTIES COMPILE_OPTIONS "" COMPILE_DEFINITIONS "")
+    target_include_directories(${resources} PRIVATE "${folder}")
+    set_source_files_properties("${script}" PROPERTIES OBJECT_DEPENDS "${ARGN}")
+    target_sources(${target} PRIVATE $<TARGET_OBJECTS:${resources}>)
 endfunction()

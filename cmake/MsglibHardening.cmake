@@ -13,7 +13,11 @@ if(NOT MSGLIB_HARDENING OR MSGLIB_SANITIZE)
 endif()
 
 # The stack protector's functions may be in a library of the compiler, which it links if the option is given.
-if(WIN32)
+if(MSVC)
+    # The stack protector and random addresses are the default.
+    set(compile_options /guard:cf)
+    set(link_options LINKER:/guard:cf LINKER:/CETCOMPAT)
+elseif(WIN32)
     # On Windows, frames are always probed page by page, and GNU's tools can't mark an image for control-flow protection.
     set(compile_options -fstack-protector-strong)
     set(link_options
@@ -44,6 +48,9 @@ foreach(option IN LISTS link_options)
     endif()
 endforeach()
 
+if(MSVC)
+    return()
+endif()
 # The checked variants of C functions need optimisation. Undefining the macro first avoids a warning if the compiler defines it.
 list(APPEND MSGLIB_HARDENING_COMPILE_OPTIONS
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE>

@@ -1,6 +1,7 @@
 // Runs a target without a fuzzer, over all files of a folder and over every short input.
 
 #include "Properties.h"
+#include "support/Emulation.h"
 
 #include <csignal>
 #include <filesystem>
@@ -39,6 +40,6 @@ int main(int argc, char** argv) {
     }
     const auto& [line, bytes] = zem::msglib::fuzzing::shortInputs;
     input = line;
-    runLonger(5, bytes);
+    runLonger(zem::msglib::runsUnderEmulator ? 4 : 5, bytes);
     return files > 0 ? 0 : 1;
 }

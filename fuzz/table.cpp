@@ -32,7 +32,11 @@ void appendNumber(std::string& bytes, std::uint32_t number) {
 
 // Returns a note segment: a note without a table, and one that contains the table.
 std::string notesOf(const std::string& table) {
-    std::string notes("\4\0\0\0\0\0\0\0\1\0\0\0GNU\0", 16);
+    std::string notes;
+    for (const std::uint32_t number : {4U, 0U, 1U}) {
+        appendNumber(notes, number);
+    }
+    notes.append("GNU\0", 4);
     appendNumber(notes, 11);
     appendNumber(notes, static_cast<std::uint32_t>(8 + table.size()));
     appendNumber(notes, 0x4d544231);

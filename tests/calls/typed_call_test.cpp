@@ -59,9 +59,9 @@ TEST_F(TypedCallTest, TakesNumbers) {
         {__LINE__, CallTexts::MSG_NUMBER(static_cast<unsigned char>(65)), "65"},
         {__LINE__, CallTexts::MSG_NUMBER(static_cast<short>(-7)), "-7"},
         {__LINE__, CallTexts::MSG_NUMBER(7L), "7"},
-        {__LINE__, CallTexts::MSG_NUMBER(static_cast<std::size_t>(large)), "5000000000"},
-        {__LINE__, CallTexts::MSG_NUMBER(static_cast<std::ptrdiff_t>(-large)), "-5000000000"},
-        {__LINE__, CallTexts::MSG_NUMBER(static_cast<std::time_t>(large)), "5000000000"},
+        {__LINE__, CallTexts::MSG_NUMBER(std::size_t{65}), "65"},
+        {__LINE__, CallTexts::MSG_NUMBER(large), "5000000000"},
+        {__LINE__, CallTexts::MSG_NUMBER(static_cast<unsigned long long>(large)), "5000000000"},
         {__LINE__, CallTexts::MSG_NUMBER(0.5F), "0.5"},
         {__LINE__, CallTexts::MSG_NUMBER(0.25L), "0.25"},
     };
@@ -73,7 +73,7 @@ TEST_F(TypedCallTest, TakesTimesRoundedDownToSeconds) {
     const Row rows[] = {
         {__LINE__, CallTexts::MSG_TIME(86399), "1970-01-01 23:59:59"},
         {__LINE__, CallTexts::MSG_TIME(4294967295U), "2106-02-07 06:28:15"},
-        {__LINE__, CallTexts::MSG_TIME(static_cast<std::time_t>(large)), "2128-06-11 08:53:20"},
+        {__LINE__, CallTexts::MSG_TIME(large), "2128-06-11 08:53:20"},
         {__LINE__, CallTexts::MSG_TIME(1.9), "1970-01-01 00:00:01"},
         {__LINE__, CallTexts::MSG_TIME(epoch + 1999ms), "1970-01-01 00:00:01"},
         {__LINE__, CallTexts::MSG_TIME(epoch - 1ms), "1969-12-31 23:59:59"},
@@ -81,6 +81,20 @@ TEST_F(TypedCallTest, TakesTimesRoundedDownToSeconds) {
          "1970-01-01 00:00:00"},
         {__LINE__, CallTexts::MSG_STAMP(epoch + 61s), "61"},
         {__LINE__, CallTexts::MSG_NUMBER_AND_TIME(large), "5000000000 is 2128"},
+    };
+    check(rows);
+}
+
+TEST_F(TypedCallTest, TakesNamedTypesBeyond32Bits) {
+    if (sizeof(std::size_t) < sizeof large) {
+        GTEST_SKIP() << "the types of a 32-bit system have no such values";
+    }
+    const Row rows[] = {
+        {__LINE__, CallTexts::MSG_NUMBER(static_cast<std::size_t>(large)), "5000000000"},
+        {__LINE__, CallTexts::MSG_NUMBER(static_cast<std::ptrdiff_t>(-large)), "-5000000000"},
+        {__LINE__, CallTexts::MSG_NUMBER(static_cast<std::time_t>(large)), "5000000000"},
+        {__LINE__, CallTexts::MSG_TIME(static_cast<std::time_t>(large)), "2128-06-11 08:53:20"},
+        {__LINE__, CallTexts::MSG_ANY(static_cast<std::size_t>(large)), "5,000,000,000"},
     };
     check(rows);
 }
@@ -107,7 +121,7 @@ TEST_F(TypedCallTest, AcceptsStreamableValuesForAPlainPlaceholder) {
         {__LINE__, CallTexts::MSG_ANY(Folder()), "Büro"},
         {__LINE__, CallTexts::MSG_ANY('c'), "c"},
         {__LINE__, CallTexts::MSG_ANY(high), "2"},
-        {__LINE__, CallTexts::MSG_ANY(static_cast<std::size_t>(large)), "5,000,000,000"},
+        {__LINE__, CallTexts::MSG_ANY(std::size_t{4000000000}), "4,000,000,000"},
         {__LINE__, CallTexts::MSG_ANY(0.25L), "0.25"},
         {__LINE__, CallTexts::MSG_UNUSED("first", 0, "last"), "last first"},
         {__LINE__, CallTexts::MSG_NONE(), "C:\\"},

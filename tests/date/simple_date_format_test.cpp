@@ -2,9 +2,11 @@
 #include "msglib/SimpleDateFormat.h"
 #include "support/Wine.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <ctime>
+#include <limits>
 #include <random>
 
 namespace zem::msglib {
@@ -72,13 +74,14 @@ TEST(SimpleDateFormat, ReadsEveryKindAsSeconds) {
     EXPECT_EQ(textOfTime("", geom::Angle(1.0)), "!" + notADate);
 }
 
-// The years that the system's C library knows, from 1601 to 9999 at most.
+// The years that the system's C library knows, from 1601 to 9999 at most, as far as it counts.
 #if defined(_WIN32)
 constexpr Seconds yearsBegin = 0;         // 1970
 constexpr Seconds yearsEnd = 32503680000; // 3000
 #else
-constexpr Seconds yearsBegin = -11644473600; // 1601
-constexpr Seconds yearsEnd = 253402300800;   // 10000
+using TimeLimits = std::numeric_limits<std::time_t>;
+constexpr Seconds yearsBegin = std::max<Seconds>(-11644473600, TimeLimits::min()); // 1601
+constexpr Seconds yearsEnd = std::min<Seconds>(253402300800, TimeLimits::max());   // 10000
 #endif
 
 TEST(SimpleDateFormat, AgreesWithTheCLibrary) {

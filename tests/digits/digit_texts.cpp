@@ -4,9 +4,9 @@
 #include <msglib/DecimalFormat.h>
 #include <msglib/MessageFormat.h>
 
-#include <charconv>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <iterator>
@@ -54,10 +54,7 @@ double doubleOf(std::uint64_t bits) {
 }
 
 double powerOfTen(int exponent) {
-    const std::string text = "1e" + std::to_string(exponent);
-    double power = 0.0;
-    std::from_chars(text.data(), text.data() + text.size(), power);
-    return power;
+    return std::strtod(("1e" + std::to_string(exponent)).c_str(), nullptr);
 }
 
 double withBinaryExponent(int exponent, Random& random) {

@@ -29,6 +29,7 @@ TEST(ChoiceFormat, CompilesAndChooses) {
     const PatternCase rows[] = {
         {__LINE__, "-1#neg|0#zero|0+pos", "neg neg neg zero pos pos pos pos pos"},
         {__LINE__, "0#o|1e999#x", "o o o o o o o x x"},
+        {__LINE__, "0x9#o|1e-0x1p9#x", "o o o o o x x x x"},
         {__LINE__, "0#{'}'|}a}1#b", "{}|}a {}|}a {}|}a {}|}a {}|}a b b b b"},
         {__LINE__, "0#{a|{1#b}|}|1#c",
          "{a|{1#b}|} {a|{1#b}|} {a|{1#b}|} {a|{1#b}|} {a|{1#b}|} c c c c"},

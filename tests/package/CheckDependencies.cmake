@@ -11,7 +11,7 @@ endif()
 set(foreign)
 foreach(line IN LISTS lines)
     string(REGEX REPLACE "^(NEEDED +|DLL Name: )" "" library "${line}")
-    if(NOT library MATCHES "^(lib(stdc\\+\\+|c\\+\\+|c\\+\\+abi|m|gcc_s|c)|ld-linux[^.]*)\\.so\\.[0-9]+$"
+    if(NOT library MATCHES "^(lib(stdc\\+\\+|c\\+\\+|c\\+\\+abi|unwind|m|gcc_s|c)|ld(64|-linux[^.]*))\\.so\\.[0-9]+$"
        AND NOT library MATCHES "^(ADVAPI32|KERNEL32|msvcrt)\\.dll$")
         list(APPEND foreign ${library})
     endif()

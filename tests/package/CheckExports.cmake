@@ -17,8 +17,10 @@ endif()
 string(REGEX REPLACE "[;[]|]" "_" output "${output}")
 string(REGEX MATCHALL "[^\n]+" lines "${output}")
 
-set(standard_string
-    "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >")
+# GNU's standard library and clang's.
+set(standard_strings
+    "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"
+    "std::__1::basic_string<char, std::__1::char_traits<char>, std::__1::allocator<char> >")
 set(leaked)
 set(seen)
 foreach(line IN LISTS lines)
@@ -29,7 +31,7 @@ foreach(line IN LISTS lines)
     string(REGEX REPLACE "^(vtable|typeinfo|typeinfo name) for " "" name "${symbol}")
     if(name MATCHES "^zem::msglib::([A-Za-z]+)(::|$)" AND CMAKE_MATCH_1 IN_LIST classes)
         list(APPEND seen ${CMAKE_MATCH_1})
-    elseif(symbol STREQUAL "typeinfo for ${standard_string}")
+    elseif(symbol MATCHES "^typeinfo for (.*)$" AND CMAKE_MATCH_1 IN_LIST standard_strings)
         continue() # shared with the program, so that comparing addresses identifies arguments
     elseif(NOT name MATCHES "^zem::msglib::operator<<\\(zem::msglib::MessageFormatStream const&")
         list(APPEND leaked ${symbol})

@@ -20,10 +20,11 @@ foreach(object IN LISTS objects)
     endif()
 endforeach()
 
-# The C run-time library adds one function to each library.
+# The run-time libraries add some functions to each library.
 if(LIBRARY)
     read_start_up_lists(${LIBRARY} lists)
-    if(NOT lists EQUAL ${POINTER_SIZE})
-        message(SEND_ERROR "the library has more than one start-up function: ${lists} bytes")
+    math(EXPR size "${POINTER_SIZE} * ${RUN_TIME_FUNCTIONS}")
+    if(NOT lists EQUAL size)
+        message(SEND_ERROR "the library has more start-up functions than ${RUN_TIME_FUNCTIONS}: ${lists} bytes")
     endif()
 endif()

@@ -58,6 +58,10 @@ std::string render(Operation operation, const SYSTEMTIME& fields, const char* pi
     return text;
 }
 
+// Wine takes at most 128 characters.
+const std::string longRun(127, 'd');
+const std::string tooLongUnderWine(128, 'd');
+
 TEST(DateTimePictures, EveryFieldAndQuotes) {
     struct {
         int line;
@@ -75,6 +79,9 @@ TEST(DateTimePictures, EveryFieldAndQuotes) {
          "07 07 2007 2007 2007"},
         {__LINE__, GetDateFormatA, date(2000, 2, 29), "g gg ggg", "A.D. A.D. A.D.",
          "AD ADAD ADADAD"},
+        {__LINE__, GetDateFormatA, date(1601, 1, 1), longRun.c_str(), "Monday"},
+        {__LINE__, GetDateFormatA, date(1601, 1, 1), tooLongUnderWine.c_str(), "Monday",
+         "Monday\t"},
         {__LINE__, GetDateFormatA, date(1601, 1, 1), "dddd", "Monday"},
         {__LINE__, GetDateFormatA, date(30827, 12, 31), "dddd yyyy-MM-dd", "Friday 30827-12-31"},
         {__LINE__, GetDateFormatA, date(2001, 9, 8), "hH:ms tDYG\xC3\xA9\xFF/d\n",

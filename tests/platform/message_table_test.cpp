@@ -30,9 +30,13 @@ Bytes atEndOfMemory(const Data& data) {
     return {std::copy(data.begin(), data.end(), end - data.size()) - data.size(), data.size()};
 }
 
+/// Returns units as a table has them, whose byte order is little-endian on every machine.
 Data bytesOf(const std::vector<char16_t>& units) {
-    Data data(2 * units.size());
-    std::memcpy(data.data(), units.data(), data.size());
+    Data data;
+    for (const char16_t unit : units) {
+        data.push_back(static_cast<unsigned char>(unit & 0xFF));
+        data.push_back(static_cast<unsigned char>(unit >> 8));
+    }
     return data;
 }
 

@@ -2,11 +2,9 @@
 
 #include <boost/multiprecision/cpp_bin_float.hpp>
 
-#include <charconv>
 #include <cmath>
-#include <limits>
+#include <cstdlib>
 #include <string>
-#include <system_error>
 
 namespace zem::msglib {
 
@@ -18,14 +16,10 @@ double nearestLogarithm(double x) {
 
 } // namespace
 
+// Clang's standard library has no `std::from_chars` for it. Without a decimal separator, no locale
+// takes part.
 double plainPowerOfTen(int exponent) {
-    const std::string digits = "1e" + std::to_string(exponent);
-    double power = 0.0;
-    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), power);
-    if (read.ec == std::errc::result_out_of_range) {
-        return exponent < 0 ? 0.0 : std::numeric_limits<double>::infinity();
-    }
-    return power;
+    return std::strtod(("1e" + std::to_string(exponent)).c_str(), nullptr);
 }
 
 int plainDecimalExponent(double x) {

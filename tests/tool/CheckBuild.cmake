@@ -21,7 +21,7 @@ file(REMOVE_RECURSE "${TREE}")
 file(COPY "${SOURCE}/" DESTINATION "${TREE}/source")
 set(build ${CMAKE_COMMAND} --build "${TREE}/build" --parallel 4 --verbose)
 run(ignored ${CMAKE_COMMAND} -G ${GENERATOR} -S "${TREE}/source" -B "${TREE}/build"
-    -D CMAKE_CXX_COMPILER=${CXX_COMPILER} -D MSGLIB_TOOL=${TOOL} -D LIBRARY=${LIBRARY} -D ROOT=${ROOT})
+    -D CMAKE_CXX_COMPILER=${CXX_COMPILER} -D CMAKE_CXX_FLAGS=${CXX_FLAGS} -D MSGLIB_TOOL=${TOOL} -D LIBRARY=${LIBRARY} -D ROOT=${ROOT})
 run(ignored ${build})
 run(printed "${TREE}/build/app")
 if(NOT printed STREQUAL "own ä\nsize\ngenerated €\nlate\narchive\nshared\n")

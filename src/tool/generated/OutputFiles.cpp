@@ -26,7 +26,7 @@ bool hasBytes(const fs::path& path, const std::string& bytes) {
 
 /// Writes a whole file or none.
 void writeBytes(const fs::path& path, const std::string& bytes) {
-    std::FILE* const file = std::fopen(path.c_str(), "wb");
+    std::FILE* const file = std::fopen(path.string().c_str(), "wb");
     bool isWritten =
         file != nullptr && std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     int reason = errno;
@@ -35,7 +35,8 @@ void writeBytes(const fs::path& path, const std::string& bytes) {
         reason = errno;
     }
     if (!isWritten) {
-        std::remove(path.c_str());
+        std::error_code ignored;
+        fs::remove(path, ignored);
         refuse(path, std::generic_category().message(reason));
     }
 }

@@ -1,5 +1,6 @@
 #include "base/Argument.h"
 
+#include <cstring>
 #include <typeinfo>
 
 namespace zem::msglib {
@@ -36,9 +37,10 @@ ArgumentKind kindOf(const boost::any& argument) noexcept {
             return row.kind;
         }
     }
-    // Another module may have its own `type_info` object for the same type.
+    // Another module may have its own `type_info` object for the same type, and clang's standard
+    // library compares nothing but addresses.
     for (const KindOfType& row : kindsOfTypes) {
-        if (held == *row.type) {
+        if (held == *row.type || std::strcmp(held.name(), row.type->name()) == 0) {
             return row.kind;
         }
     }

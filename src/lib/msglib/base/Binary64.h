@@ -8,8 +8,8 @@
 #include <limits>
 
 #if defined(__FAST_MATH__) || __FINITE_MATH_ONLY__ || defined(__ASSOCIATIVE_MATH__) ||             \
-    defined(__RECIPROCAL_MATH__)
-#error "msglib needs plain binary64 arithmetic: no -Ofast, no -ffast-math and none of its parts"
+    defined(__RECIPROCAL_MATH__) || defined(_M_FP_FAST)
+#error "msglib needs plain binary64 arithmetic: no -Ofast, -ffast-math and its parts, /fp:fast"
 #endif
 
 #if FLT_EVAL_METHOD != 0

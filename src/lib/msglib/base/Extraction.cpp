@@ -1,5 +1,7 @@
 #include "base/Extraction.h"
 
+#include <algorithm>
+#include <limits>
 #include <sstream>
 #include <string>
 
@@ -48,13 +50,21 @@ bool extractInt(std::string_view text, int& value) {
     return true;
 }
 
+// GNU's standard library stops at any letter but that of an exponent, and reads the largest number
+// in place of one that is too large. Others read names of numbers, hexadecimal ones and infinity.
 double extractDouble(std::string_view text) {
+    constexpr double most = std::numeric_limits<double>::max();
     if (int whole = 0; readWhole(text, whole)) {
         return whole;
     }
+    const auto isForeign = [](char c) {
+        const int letter = c | 0x20;
+        return letter >= 'a' && letter <= 'z' && letter != 'e';
+    };
+    const auto* const end = std::find_if(text.begin(), text.end(), isForeign);
     double number = 0.0;
-    extract(text, number);
-    return number;
+    extract(text.substr(0, static_cast<std::size_t>(end - text.begin())), number);
+    return std::clamp(number, -most, most);
 }
 
 } // namespace zem::msglib

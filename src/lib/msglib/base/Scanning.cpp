@@ -1,11 +1,18 @@
 #include "base/Scanning.h"
 
+#include "base/Compiler.h"
+
 #include <algorithm>
 #include <cstring>
 #include <iterator>
 
-#if defined(__SSE2__)
+// Microsoft's compiler has no macro for SSE2, which every 64-bit x86 processor has.
+#if defined(__SSE2__) || defined(_M_X64)
+#define MSGLIB_HAS_SSE2
 #include <emmintrin.h>
+#endif
+#if defined(_MSC_VER)
+#include <intrin.h>
 #endif
 
 // `findSyntax` returns the first of four bytes in a text. Most texts between two syntax bytes are
@@ -23,9 +30,20 @@ const char* findByBytes(const char* at, const char* end, char delimiter) noexcep
     return at;
 }
 
-#if defined(__SSE2__)
+#if defined(MSGLIB_HAS_SSE2)
 
 constexpr std::ptrdiff_t vectorSize = 16;
+
+// Returns the index of the lowest bit that is set. One must be set.
+std::ptrdiff_t lowestBit(unsigned int bits) noexcept {
+#if defined(_MSC_VER)
+    unsigned long index = 0;
+    _BitScanForward(&index, bits);
+    return static_cast<std::ptrdiff_t>(index);
+#else
+    return __builtin_ctz(bits);
+#endif
+}
 
 // Returns a mask with a bit for each byte of a vector, the lowest for the first. Syntax bytes have
 // theirs set.
@@ -43,14 +61,14 @@ const char* findIn(std::string_view text, const char* at, const char* end,
                    char delimiter) noexcept {
     for (; end - at >= vectorSize; at += vectorSize) {
         if (const unsigned int found = syntaxIn(at, delimiter)) {
-            return at + __builtin_ctz(found);
+            return at + lowestBit(found);
         }
     }
     if (end - text.data() < vectorSize) {
         return findByBytes(at, end, delimiter);
     }
     const unsigned int found = syntaxIn(end - vectorSize, delimiter) >> (vectorSize - (end - at));
-    return found != 0 ? at + __builtin_ctz(found) : end;
+    return found != 0 ? at + lowestBit(found) : end;
 }
 
 #else
@@ -63,8 +81,8 @@ const char* findIn(std::string_view, const char* at, const char* end, char delim
 
 // Finds the first syntax byte of a long text by one `memchr` for each of the four. A match for one
 // byte is the end of the search for the next. Windows limit how far it searches for a rare byte.
-[[gnu::noinline]] const char* findByWindows(const char* at, const char* end,
-                                            char delimiter) noexcept {
+MSGLIB_NOINLINE const char* findByWindows(const char* at, const char* end,
+                                          char delimiter) noexcept {
     constexpr std::ptrdiff_t windowSize = 8192;
     const char bytes[] = {quote, '{', '}', delimiter};
     const bool isDuplicate = delimiter == quote || delimiter == '}';

@@ -1,5 +1,7 @@
 #include "base/TextOutput.h"
 
+#include "base/Compiler.h"
+
 namespace zem::msglib {
 
 void TextOutput::truncate(std::size_t size) {
@@ -15,7 +17,7 @@ void TextOutput::flush() {
 }
 
 // Not inline: every caller of `append` would grow by it.
-[[gnu::noinline]] void TextOutput::appendUnbuffered(std::string_view text) {
+MSGLIB_NOINLINE void TextOutput::appendUnbuffered(std::string_view text) {
     flush();
     out_ += text;
 }

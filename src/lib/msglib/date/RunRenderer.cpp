@@ -1,5 +1,6 @@
 #include "date/RunRenderer.h"
 
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "platform/LastError.h"
 
@@ -41,8 +42,8 @@ void RunRenderer::append(PictureOperation operation, char letter, std::size_t le
 
 // Nearly all runs fit. The functions below aren't inline, so that those runs don't pay for them.
 
-[[gnu::noinline]] void RunRenderer::appendThroughBuffer(PictureOperation operation,
-                                                        const char* picture, TextOutput& out) {
+MSGLIB_NOINLINE void RunRenderer::appendThroughBuffer(PictureOperation operation,
+                                                      const char* picture, TextOutput& out) {
     if (!appendBuffered(operation, picture, out) && growBufferFor(operation, picture)) {
         appendBuffered(operation, picture, out);
     }
@@ -57,7 +58,7 @@ bool RunRenderer::appendBuffered(PictureOperation operation, const char* picture
 
 // Enlarges the buffer to the length that the platform asks for, if the run failed for lack of
 // space.
-[[gnu::noinline]] bool RunRenderer::growBufferFor(PictureOperation operation, const char* picture) {
+MSGLIB_NOINLINE bool RunRenderer::growBufferFor(PictureOperation operation, const char* picture) {
     if (platform::GetLastError() != platform::ERROR_INSUFFICIENT_BUFFER) {
         return false;
     }
@@ -78,7 +79,7 @@ const char* RunRenderer::pictureOf(char letter, std::size_t length) {
     return shortPicture_;
 }
 
-[[gnu::noinline]] const char* RunRenderer::longPictureOf(char letter, std::size_t length) {
+MSGLIB_NOINLINE const char* RunRenderer::longPictureOf(char letter, std::size_t length) {
     return longPicture_.assign(length, letter).c_str();
 }
 

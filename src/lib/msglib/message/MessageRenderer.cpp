@@ -1,5 +1,6 @@
 #include "message/MessageRenderer.h"
 
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "message/PlaceholderStyle.h"
 #include "msglib/ChoiceFormat.h"
@@ -73,8 +74,8 @@ void MessageRenderer::renderPlaceholder(PlaceholderReader& reader) {
 }
 
 // Not inline, so that keywords don't pay for it.
-[[gnu::noinline]] void MessageRenderer::renderScanned(PlaceholderReader& reader,
-                                                      const boost::any& argument) {
+MSGLIB_NOINLINE void MessageRenderer::renderScanned(PlaceholderReader& reader,
+                                                    const boost::any& argument) {
     ScannedText type;
     ScannedText style;
     reader.readType(type);
@@ -95,9 +96,8 @@ void MessageRenderer::renderStyled(PlaceholderReader& reader, std::string_view t
 }
 
 // Continues with the text that a choice selects, which is a message itself.
-[[gnu::noinline]] void MessageRenderer::enterChoice(PlaceholderReader& reader,
-                                                    std::string_view style, ScannedText&& copy,
-                                                    const boost::any& argument) {
+MSGLIB_NOINLINE void MessageRenderer::enterChoice(PlaceholderReader& reader, std::string_view style,
+                                                  ScannedText&& copy, const boost::any& argument) {
     if (style.empty()) {
         raise(Failure::ChoiceStyleMissing);
     }

@@ -1,11 +1,12 @@
 #include "message/PlaceholderReader.h"
 
+#include "base/Compiler.h"
 #include "base/Extraction.h"
 
 namespace zem::msglib {
 
 // Not inline, so that plain digits don't pay for it.
-[[gnu::noinline]] int PlaceholderReader::extractIndex() {
+MSGLIB_NOINLINE int PlaceholderReader::extractIndex() {
     const std::size_t begin = ++position_;
     ScannedText segment;
     readSegment(',', segment);

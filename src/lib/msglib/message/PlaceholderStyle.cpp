@@ -1,6 +1,7 @@
 #include "message/PlaceholderStyle.h"
 
 #include "base/Argument.h"
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "date/DateText.h"
 #include "date/LocaleDatePattern.h"
@@ -68,7 +69,7 @@ void buildNumber(FormatElement& element, const std::locale& locale) {
 
 // Not inline, so that text arguments don't pay for the stack frame of locale values.
 template <NumberFormat::FormatType type>
-[[gnu::noinline]] void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
+MSGLIB_NOINLINE void appendNumber(std::string_view, const boost::any& argument, TextOutput& out) {
     LocaleNumber(type).appendArgument(argument, out);
 }
 

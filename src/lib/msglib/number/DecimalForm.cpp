@@ -1,5 +1,6 @@
 #include "number/DecimalForm.h"
 
+#include "base/Compiler.h"
 #include "number/NumberArgument.h"
 #include "number/PowersOfTen.h"
 
@@ -39,7 +40,7 @@ void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
 // Divides by the power of ten that leaves the minimum number of integer digits before the point.
 // Zero and infinity are returned unchanged. The functions for exponents aren't inline, so that
 // numbers without an exponent don't pay for them.
-[[gnu::noinline]] ScaledNumber DecimalForm::scaleToExponent(double x) const {
+MSGLIB_NOINLINE ScaledNumber DecimalForm::scaleToExponent(double x) const {
     if (x == 0.0 || x == std::numeric_limits<double>::infinity()) {
         return {x, 0};
     }
@@ -48,8 +49,8 @@ void DecimalForm::appendWhole(std::int64_t value, TextOutput& out) const {
     return {dividedByPower(x, exponent), exponent};
 }
 
-[[gnu::noinline]] void DecimalForm::appendExponentDigits(std::int64_t exponent,
-                                                         TextOutput& out) const {
+MSGLIB_NOINLINE void DecimalForm::appendExponentDigits(std::int64_t exponent,
+                                                       TextOutput& out) const {
     out.append(format_.symbols_.exponential_);
     if (exponent < 0) {
         appendMinusSign(out);

@@ -1,5 +1,6 @@
 #include "number/DigitWriter.h"
 
+#include "base/Compiler.h"
 #include "base/TextOutput.h"
 #include "number/DigitTriples.h"
 #include "number/PowersOfTen.h"
@@ -237,8 +238,8 @@ void appendGeneral(std::string_view whole, Fraction fraction, std::size_t fracti
 }
 
 template <class Fraction>
-[[gnu::noinline]] void appendGeneral(std::uint64_t whole, Fraction fraction,
-                                     const DigitLayout& layout, TextOutput& out) {
+MSGLIB_NOINLINE void appendGeneral(std::uint64_t whole, Fraction fraction,
+                                   const DigitLayout& layout, TextOutput& out) {
     appendGeneral(WholeDigits(whole).text(), fraction, maxFractionDigits, layout, out);
 }
 

@@ -23,12 +23,12 @@ constexpr std::uint32_t CP_UTF8 = 65001;
 /// The value of `MEMORY_BASIC_INFORMATION::Type` for memory of a loaded image.
 constexpr std::uint32_t MEM_IMAGE = 0x1000000;
 
-/// A description of the memory around one address.
+/// A description of the memory around one address. 64-bit systems have another field, not used here,
+/// in the gap before `RegionSize`.
 struct MEMORY_BASIC_INFORMATION {
     void* BaseAddress;
     void* AllocationBase; ///< the module that holds the address, if `Type` is `MEM_IMAGE`
     std::uint32_t AllocationProtect;
-    std::uint16_t PartitionId;
     std::size_t RegionSize;
     std::uint32_t State;
     std::uint32_t Protect;

@@ -4,6 +4,12 @@
 #error "msglib identifies argument types by run-time type information: compile without -fno-rtti"
 #endif
 
+// Microsoft's compiler warns about members of the standard library in exported classes. Their layout
+// is the same in the library and the program, which must use one run-time library anyway.
+#if defined(_MSC_VER)
+#pragma warning(disable : 4251)
+#endif
+
 /// Marks a declaration that the library exports; every other symbol is hidden.
 ///
 /// `MSGLIB_STATIC` is defined for users of the static library, `MSGLIB_BUILDING` while the library

@@ -60,7 +60,8 @@ TEST(AllocationCount, DirectRenderingAllocatesOnlyTheText) {
         const MessageLibrary& library = MessageLibrary::instance();
         const std::size_t before = allocations();
         const std::string text = library.formatMessage(row.pattern, args);
-        EXPECT_EQ(allocations() - before, 1U) << "row of line " << row.line;
+        const std::size_t needed = text.size() > std::string().capacity() ? 1 : 0;
+        EXPECT_EQ(allocations() - before, needed) << "row of line " << row.line;
     }
 }
 

@@ -20,6 +20,9 @@ bool isWhollyNumber(std::string_view limit) {
     if (!number.empty() && std::all_of(number.begin(), number.end(), isDigit)) {
         return true;
     }
+    if (number.find_first_not_of("0123456789+-.eE") != std::string_view::npos) {
+        return false;
+    }
     std::istringstream stream{std::string(number)};
     stream.imbue(std::locale::classic());
     double value = 0.0;

@@ -50,21 +50,23 @@ bool extractInt(std::string_view text, int& value) {
     return true;
 }
 
-// GNU's standard library stops at any letter but that of an exponent, and reads the largest number
-// in place of one that is too large. Others read names of numbers, hexadecimal ones and infinity.
 double extractDouble(std::string_view text) {
-    constexpr double most = std::numeric_limits<double>::max();
     if (int whole = 0; readWhole(text, whole)) {
         return whole;
     }
-    const auto isForeign = [](char c) {
-        const int letter = c | 0x20;
-        return letter >= 'a' && letter <= 'z' && letter != 'e';
-    };
-    const auto* const end = std::find_if(text.begin(), text.end(), isForeign);
     double number = 0.0;
-    extract(text.substr(0, static_cast<std::size_t>(end - text.begin())), number);
-    return std::clamp(number, -most, most);
+#if defined(__GLIBCXX__)
+    extract(text, number);
+    return number;
+#else
+    // Other libraries than GNU's read names of numbers, hexadecimal numbers and infinity. GNU's stops
+    // at any letter but that of an exponent, and reads the largest number in place of a larger one.
+    constexpr double largest = std::numeric_limits<double>::max();
+    extract(
+        text.substr(0, text.find_first_of("abcdfghijklmnopqrstuvwxyzABCDFGHIJKLMNOPQRSTUVWXYZ")),
+        number);
+    return std::clamp(number, -largest, largest);
+#endif
 }
 
 } // namespace zem::msglib

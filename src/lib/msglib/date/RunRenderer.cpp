@@ -44,7 +44,7 @@ void RunRenderer::append(PictureOperation operation, char letter, std::size_t le
 // Nearly all runs go without what follows, and need not make room for it.
 
 MSGLIB_NOINLINE void RunRenderer::appendThroughBuffer(PictureOperation operation,
-                                                        const char* picture, TextOutput& out) {
+                                                      const char* picture, TextOutput& out) {
     if (!appendGrown(operation, picture, out) && growFor(operation, picture)) {
         appendGrown(operation, picture, out);
     }

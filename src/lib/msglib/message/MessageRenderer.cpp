@@ -68,7 +68,7 @@ void MessageRenderer::renderPlaceholder(PlaceholderReader& reader) {
 
 // Not inline, so that keywords need not make room for it.
 MSGLIB_NOINLINE void MessageRenderer::renderScanned(PlaceholderReader& reader,
-                                                      const boost::any& argument) {
+                                                    const boost::any& argument) {
     ScannedText type;
     ScannedText style;
     reader.readType(type);
@@ -89,9 +89,8 @@ void MessageRenderer::renderStyled(PlaceholderReader& reader, std::string_view t
 }
 
 // Goes on with the text that a choice picks, a message of its own.
-MSGLIB_NOINLINE void MessageRenderer::enterChoice(PlaceholderReader& reader,
-                                                    std::string_view style, ScannedText&& copy,
-                                                    const boost::any& argument) {
+MSGLIB_NOINLINE void MessageRenderer::enterChoice(PlaceholderReader& reader, std::string_view style,
+                                                  ScannedText&& copy, const boost::any& argument) {
     if (style.empty()) {
         raise(Failure::ChoiceStyleMissing);
     }

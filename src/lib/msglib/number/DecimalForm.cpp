@@ -50,7 +50,7 @@ MSGLIB_NOINLINE ScaledNumber DecimalForm::scaleToExponent(double x) const {
 }
 
 MSGLIB_NOINLINE void DecimalForm::appendExponentDigits(std::int64_t exponent,
-                                                         TextOutput& out) const {
+                                                       TextOutput& out) const {
     out.append(format_.symbols_.exponential_);
     if (exponent < 0) {
         appendMinusSign(out);

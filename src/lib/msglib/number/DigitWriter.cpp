@@ -230,7 +230,7 @@ void appendInAnyLayout(std::string_view whole, Fraction fraction, std::size_t fr
 
 template <class Fraction>
 MSGLIB_NOINLINE void appendInAnyLayout(std::uint64_t whole, Fraction fraction,
-                                         const DigitLayout& layout, TextOutput& out) {
+                                       const DigitLayout& layout, TextOutput& out) {
     appendInAnyLayout(WholeDigits(whole).text(), fraction, mostFractionDigits, layout, out);
 }
 

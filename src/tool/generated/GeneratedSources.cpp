@@ -167,7 +167,9 @@ std::string sourceText(const CatalogueName& name, const Catalogue& catalogue,
     if (!tables.empty()) {
         out += "#if !defined(__ELF__)\n"
                "#error \"These tables are for ELF modules; --format rc is for Windows\"\n"
-               "#endif\n\n";
+               "#endif\n\n"
+               "// A table may be longer than the string that compilers have to take.\n"
+               "#pragma GCC diagnostic ignored \"-Woverlength-strings\"\n\n";
     }
     for (const auto& [language, table] : tables) {
         appendNote(out, language, table);

@@ -61,7 +61,7 @@ TEST_F(CheckCommand, ChecksPatternsThatLiveElsewhere) {
                               "    3 | a}b\n"
                               "      |  ^\n"
                               "patterns:3:2: note: to show the brace, write `'}'`\n"
-                              "patterns:4:4: warning: `Number` is no type: this shows what `{0}` "
+                              "patterns:4:4: warning: `Number` is not a type: this shows what `{0}` "
                               "shows [unknown-type]\n"
                               "    4 | {0,Number}\n"
                               "      |    ^~~~~~\n"
@@ -89,7 +89,7 @@ TEST_F(CheckCommand, AllowsRulesInOneMessage) {
               "A.mc(8,7): warning quote-vanishes: apostrophes around one character quote it and "
               "are not shown\n"
               "A.mc(8,7): note: write ’ (U+2019) for an apostrophe that is shown\n"
-              "A.mc(8,14): warning foreign-insert: `%1` is shown as it stands\n"
+              "A.mc(8,14): warning foreign-insert: `%1` is shown unchanged\n"
               "A.mc(8,14): note: arguments are counted from 0: write `{0}`\n");
 }
 
@@ -133,14 +133,14 @@ TEST_F(CheckCommand, StopsBuilds) {
              "Messages.mc:9:29: error: Illegal argument in format string [syntax]\n"
              "    9 | {0 files were copied to {1}.\n"
              "      |                             ^\n",
-             "Messages.mc:14:4: warning: `Number` is no type: this shows what `{0}` shows "
+             "Messages.mc:14:4: warning: `Number` is not a type: this shows what `{0}` shows "
              "[unknown-type]\n"
              "   14 | {0,Number} of {1} files.\n"
              "      |    ^~~~~~\n",
-             "Messages.mc:19:4: warning: ` number` is no type",
-             "Messages.mc:24:12: warning: `EEEE` is no date letter; the day's name is `dddd` "
+             "Messages.mc:19:4: warning: ` number` is not a type",
+             "Messages.mc:24:12: warning: `EEEE` is not a date letter; the day's name is `dddd` "
              "[date-letter]\n",
-             "Messages.mc:29:12: warning: `short` is no style of `time` and is read as a pattern "
+             "Messages.mc:29:12: warning: `short` is not a style of `time` and is read as a pattern "
              "[time-style]\n",
              "Messages.mc:34:22: warning: this limit is lower than the one before it: limits have "
              "to ascend [choice-order]\n",
@@ -149,7 +149,7 @@ TEST_F(CheckCommand, StopsBuilds) {
              "   39 | {0,choice,0#none|1#{1,choice,0#it''s free|1#that''s {0}}}, they're {2}\n"
              "      |                                  ^~~~\n",
              "Messages.mc:44:15: error: \"ä\" has the byte A4",
-             "Messages.mc:49:8: warning: `%1` is shown as it stands [foreign-insert]\n",
+             "Messages.mc:49:8: warning: `%1` is shown unchanged [foreign-insert]\n",
              "Messages.mc:52:38: error: there is no facility Ap [file-syntax]\n",
              "Utf16.mc:3:3: error: Illegal argument in format string [syntax]\n"
              "    3 | {0\n"

@@ -20,7 +20,7 @@ TEST(PatternCheck, PointsAtWhatIsWrong) {
          "it: shows \"itsfree\" (write ’ (U+2019), or 10 apostrophes at this depth)\n"
          "1:49-53 choice-quote: in a choice, this apostrophe takes \"s\" and drops the blank after "
          "it: shows \"thats\" (write ’ (U+2019), or 10 apostrophes at this depth)\n"
-         "1:56-62 unknown-type: `Number` is no type: this shows what `{2}` shows (did you mean "
+         "1:56-62 unknown-type: `Number` is not a type: this shows what `{2}` shows (did you mean "
          "`number`?)\n"},
         {__LINE__, "a{0",
          "1:4-4 syntax: Illegal argument in format string (1:2-3 this brace is not closed)\n"},

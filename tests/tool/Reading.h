@@ -46,14 +46,14 @@ inline std::string dump(const std::vector<Diagnostic>& diagnostics) {
     };
     for (const Diagnostic& diagnostic : diagnostics) {
         add(diagnostic.place);
-        out += " " + std::string(diagnostic.rule->name) + ": " + diagnostic.words;
+        out += " " + std::string(diagnostic.rule->name) + ": " + diagnostic.message;
         for (const Note& note : diagnostic.notes) {
             out += " (";
             if (note.place.file != nullptr) {
                 add(note.place);
                 out += " ";
             }
-            out += note.words + ")";
+            out += note.message + ")";
         }
         out += "\n";
     }

@@ -40,7 +40,7 @@ TEST(CatalogueRulesTest, ChecksAllFilesTogether) {
         // symbols
         {__LINE__,
          {message("1", "SymbolicName=A") + message("2", "SymbolicName=A")},
-         "5:26-27 duplicate-symbol: this symbolic name stands for 0x00000001 already, and here for "
+         "5:26-27 duplicate-symbol: this symbolic name already stands for 0x00000001, and here for "
          "0x00000002 (1:26-27 the first one is here)\n"},
         {__LINE__,
          {names + message("1", "SymbolicName=A") + message("1", "SymbolicName=A", "German")},
@@ -63,10 +63,10 @@ TEST(CatalogueRulesTest, ChecksAllFilesTogether) {
          {message("1", "SymbolicName=default") + message("2", "SymbolicName=EOF") +
           message("3", "SymbolicName=_A") + message("4", "SymbolicName=a__b") +
           message("5", "SymbolicName=Default") + message("6", "SymbolicName=_a")},
-         "1:26-33 reserved-symbol: this is a keyword of C++, no name of a constant\n"
+         "1:26-33 reserved-symbol: this is a keyword of C++, not a name for a constant\n"
          "5:26-29 reserved-symbol: this is a macro of the C library\n"
-         "9:26-28 reserved-symbol: names with such underscores are the compiler's\n"
-         "13:26-30 reserved-symbol: names with such underscores are the compiler's\n"},
+         "9:26-28 reserved-symbol: names with such underscores are reserved for the compiler\n"
+         "13:26-30 reserved-symbol: names with such underscores are reserved for the compiler\n"},
         // messages with errors of their own are no reason for more
         {__LINE__,
          {message("1") + message("1", "Severity=X") + message("1", "", "Swedish")},
@@ -98,7 +98,7 @@ TEST(CatalogueRulesTest, ObeysAllowancesInComments) {
          "1:26-29 reserved-symbol: this is a macro of the C library\n5:20-35 unused-allow: nothing "
          "to allow: the message has no diagnostic of this rule\n"},
         {__LINE__, "; // msglib: allow reserved-symbol reserved-symbol\n" + reserved,
-         "1:36-51 unused-allow: the message allows this rule already\n"},
+         "1:36-51 unused-allow: the message already allows this rule\n"},
         {__LINE__, "; // msglib: allow file-syntax other\n" + message("1"),
          "1:20-31 unused-allow: this rule cannot be allowed\n1:32-37 unused-allow: there is no "
          "such rule\n"},

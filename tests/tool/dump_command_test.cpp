@@ -165,9 +165,9 @@ TEST_F(DumpCommandTest, EndsWithTheStatusOfWhatItFound) {
         int status;
         const char* words;
     } rows[] = {
-        {__LINE__, "empty.bin", 1, "empty.bin: there are no messages in it"},
+        {__LINE__, "empty.bin", 1, "empty.bin: this file has no messages"},
         {__LINE__, "empty.bin --format json", 1, "[]"},
-        {__LINE__, "'" PROGRAM "'", 1, "there are no messages in it"},
+        {__LINE__, "'" PROGRAM "'", 1, "this file has no messages"},
         {__LINE__, "text", 2, "text: this is neither a module"},
         {__LINE__, "missing", 2, "missing: cannot be read"},
         {__LINE__, "", 2, "MODULE is required"},

@@ -27,7 +27,7 @@ struct ExplanationCase {
 };
 
 const std::string byKind =
-    "as its kind asks: 1234 shows \"1,234\", 1234.5 shows \"1,234.50\", a text stays as it is\n";
+    "by its kind: 1234 shows \"1,234\", 1234.5 shows \"1,234.50\", a text stays as it is\n";
 
 TEST(Explanation, DescribesEveryStyle) {
     const ExplanationCase cases[] = {
@@ -108,7 +108,7 @@ TEST(Explanation, DescribesEveryStyle) {
         EXPECT_EQ(explained(row.pattern), row.words) << "line " << row.line;
     }
     EXPECT_EQ(explained("{2}"), "argument 2 " + byKind);
-    EXPECT_EQ(explained("{0,Number,0}"), "argument 0: `Number` is no type\n  " + byKind);
+    EXPECT_EQ(explained("{0,Number,0}"), "argument 0: `Number` is not a type\n  " + byKind);
 }
 
 TEST(Explanation, NamesIntervals) {
@@ -258,7 +258,7 @@ TEST(Explanation, IsLinearForDeepNesting) {
     const std::string half = explained(nested(5000));
     const std::string whole = explained(nested(10000));
     EXPECT_LT(whole.size(), half.size() * 21 / 10);
-    EXPECT_NE(whole.find("[level 10000] argument 0 as its kind asks"), std::string::npos);
+    EXPECT_NE(whole.find("[level 10000] argument 0 by its kind"), std::string::npos);
     EXPECT_LT(whole.size() / static_cast<std::size_t>(std::count(whole.begin(), whole.end(), '\n')),
               100);
 }

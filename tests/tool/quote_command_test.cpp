@@ -47,7 +47,7 @@ std::vector<Surroundings> surroundingsOf(TextPlace place) {
     return {{"x {0,date,", "} y", "x ", " y"}, {"{0,date,d ", " d}", "1 ", " 1"}};
 }
 
-/// Tells whether the library shows a text for a spelling, between other texts and choices.
+/// Returns whether the library shows a text for a spelling, between other texts and choices.
 bool isRight(const std::string& spelling, const std::string& text, TextPlace place,
              std::size_t depth) {
     for (const Surroundings& around : surroundingsOf(place)) {
@@ -75,7 +75,7 @@ bool bracesMatch(std::string_view text) {
     return open == 0;
 }
 
-/// Tells whether some apostrophes, of that number at most, show a text if they are put between its
+/// Returns whether some apostrophes, of that number at most, show a text if they are put between its
 /// other characters.
 bool hasSpelling(const std::string& text, TextPlace place, std::size_t depth, std::size_t most) {
     std::string others = text;
@@ -201,12 +201,12 @@ TEST_F(QuoteCommandTest, PrintsTheSpellingAlone) {
         {__LINE__, "\"it's fine\" --in choice --depth 2", 0, "it''''''''''s fine\n"},
         {__LINE__, "--in number -- -E", 0, "-'E'\n"},
         {__LINE__, "'{' --in choice", 1,
-         "msglib: no spelling was found that shows it there; pass it as an argument\n"},
+         "msglib: no spelling was found that shows this text there; pass it as an argument\n"},
         {__LINE__, "ä --in number", 1,
-         "msglib: no spelling was found that shows it there; write it before or after the "
+         "msglib: no spelling was found that shows this text there; write it before or after the "
          "placeholder\n"},
         {__LINE__, "\"it's\" --depth 8", 1,
-         "msglib: no spelling was found that shows it there; write ’ (U+2019) for an apostrophe: "
+         "msglib: no spelling was found that shows this text there; write ’ (U+2019) for an apostrophe: "
          "it’s\n"},
         {__LINE__, "\"$(printf 'a\\n.\\nb')\"", 0,
          "a\n.\nb\nmsglib: note: in a message text file, a line with \".\" alone ends the text\n"},

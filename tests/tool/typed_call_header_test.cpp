@@ -137,7 +137,7 @@ TEST(TypedCallHeaderTest, TakesNamesAndKindsFromComments) {
          "1:15-21 argument-annotation: the text does not use this argument as number (write "
          "time)\n"},
         {__LINE__, "; // @arg 0 a How many\n", "{0}", "M(any a = many)",
-         "1:15-18 argument-annotation: `How` is no kind of argument (the kinds are text, number, "
+         "1:15-18 argument-annotation: `How` is not a kind of argument (the kinds are text, number, "
          "time and any)\n"},
         {__LINE__, "; // @arg 2 a\n", "{1}", "M(any, any)",
          "1:11-12 argument-annotation: the message has no argument 2 (its text in English (United "
@@ -146,7 +146,7 @@ TEST(TypedCallHeaderTest, TakesNamesAndKindsFromComments) {
          "1:11-31 argument-annotation: the message has no argument 18446744073709551616 (its text "
          "in English (United States) uses none)\n"},
         {__LINE__, "; // @arg 0 a\n; // @arg 0 b\n", "{0}", "M(any a)",
-         "2:11-12 argument-annotation: argument 0 has such a comment already\n"},
+         "2:11-12 argument-annotation: argument 0 already has such a comment\n"},
         {__LINE__, "; // @arg 0 a\n; // @arg 1 a\n", "{1}", "M(any a, any)",
          "2:13-14 argument-annotation: another argument of the message has this name\n"},
         {__LINE__, "; // @arg 0 class\n; // @arg 1 Argument0\n", "{1}", "M(any, any)",

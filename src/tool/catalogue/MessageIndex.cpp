@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::uint32_t numberBits = 0xFFFF;
 
-/// Reads a number, decimal or hexadecimal; nothing if it is none of 32 bits.
+/// Reads a number, decimal or hexadecimal. Returns nothing if it is not a number of 32 bits.
 std::optional<std::uint32_t> readNumber(std::string_view text) {
     const bool isHexadecimal = text.size() > 2 && equalInAnyCase(text.substr(0, 2), "0x");
     text.remove_prefix(isHexadecimal ? 2 : 0);

@@ -40,7 +40,7 @@ void appendLines(std::string& out, const std::optional<std::string>& text, char 
     }
 }
 
-/// Returns what is said about a change after its message.
+/// Returns the text after the message of a change: whether callers break, and the details.
 std::string remarkOf(const Change& change, const Colours& colours) {
     const std::string words = change.words.empty() ? "" : ": " + change.words;
     if (!change.breaks) {

@@ -72,7 +72,7 @@ std::size_t TracedText::find(std::size_t offset) const {
     const Run& run = *std::prev(next);
     std::size_t found = run.position + (offset - run.offset);
     if (next != joined_->runs.end()) {
-        found = std::min(found, next->position); // what is between two runs is in neither
+        found = std::min(found, next->position); // bytes between two runs are in neither
     }
     return found - positionInJoined();
 }

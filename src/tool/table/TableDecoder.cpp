@@ -35,7 +35,7 @@ public:
 
     TableTexts decode() {
         if (!mayBeTable(table_)) {
-            throw BrokenTable("it has no room for the blocks that it announces");
+            throw BrokenTable("it is too short for the number of its blocks");
         }
         const std::size_t end = countSize + table_.u32(0) * blockSize;
         for (std::size_t block = countSize; block < end; block += blockSize) {
@@ -64,8 +64,8 @@ private:
     std::size_t decodeEntry(std::uint32_t id, std::size_t offset, std::size_t end) {
         const std::size_t length = table_.u16(offset);
         const std::uint16_t flags = table_.u16(offset + 2);
-        const auto refuse = [id](const char* words) {
-            throw BrokenTable("its entry of " + hexadecimal(id) + words);
+        const auto refuse = [id](const char* reason) {
+            throw BrokenTable("its entry of " + hexadecimal(id) + reason);
         };
         if (offset < end || length < headerSize || !table_.holds(offset, length)) {
             refuse(" lies outside of it");

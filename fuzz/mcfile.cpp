@@ -1,5 +1,5 @@
-// Message text files. The input is an encoding in the first line and a file after it, which is
-// read, checked, compiled and read back.
+// Message text files. The input is an encoding in the first line and a file after it. The file is
+// read, checked and compiled, and the tables are read back.
 
 #include "Properties.h"
 

@@ -1,4 +1,4 @@
-// The commands of the program that check and explain, as people and builds call them.
+// The commands `check`, `rules` and `explain-rule`, run as people and builds run them.
 
 #include "tool/Program.h"
 
@@ -18,7 +18,7 @@ std::string contentOf(const std::string& path) {
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-// The output of wrong catalogues is that of the files beside them, which documentation shows.
+// The output for wrong catalogues is in the files beside them, which the documentation shows.
 TEST_F(CheckCommand, ReportsWrongCatalogues) {
     const std::string wrong = EXAMPLES_FOLDER "/wrong/";
     for (const char* const name : {"FirstMistakes", "WrongMessages"}) {
@@ -48,7 +48,7 @@ TEST_F(CheckCommand, ComparesTranslationsWhereverTheyAre) {
                               "      |      ^\n");
 }
 
-TEST_F(CheckCommand, ChecksPatternsThatLiveElsewhere) {
+TEST_F(CheckCommand, ChecksPatternsOutsideOfCatalogues) {
     const Outcome pattern = run(PROGRAM " check --pattern '{0}' --pattern '{x}'");
     EXPECT_EQ(pattern.output, "pattern:1:2: error: Illegal argument in format string [syntax]\n"
                               "    1 | {x}\n"
@@ -57,15 +57,16 @@ TEST_F(CheckCommand, ChecksPatternsThatLiveElsewhere) {
                               "pattern:1:2: note: to show the brace, write `'{'`\n");
     EXPECT_EQ(pattern.status, 1);
     write("patterns", "{0}\n\na}b\n{0,Number}");
-    const std::string found = "patterns:3:2: error: unexpected closing brace [syntax]\n"
-                              "    3 | a}b\n"
-                              "      |  ^\n"
-                              "patterns:3:2: note: to show the brace, write `'}'`\n"
-                              "patterns:4:4: warning: `Number` is not a type: this shows what `{0}` "
-                              "shows [unknown-type]\n"
-                              "    4 | {0,Number}\n"
-                              "      |    ^~~~~~\n"
-                              "patterns:4:4: note: did you mean `number`?\n";
+    const std::string found =
+        "patterns:3:2: error: unexpected closing brace [syntax]\n"
+        "    3 | a}b\n"
+        "      |  ^\n"
+        "patterns:3:2: note: to show the brace, write `'}'`\n"
+        "patterns:4:4: warning: `Number` is not a type: this shows what `{0}` "
+        "shows [unknown-type]\n"
+        "    4 | {0,Number}\n"
+        "      |    ^~~~~~\n"
+        "patterns:4:4: note: did you mean `number`?\n";
     EXPECT_EQ(run(PROGRAM " check --lines patterns").output, found);
     EXPECT_EQ(run(PROGRAM " check --lines - < patterns").status, 1);
     EXPECT_EQ(run(PROGRAM " check --pattern \"$(printf 'a\\344')\"").status, 1);
@@ -109,7 +110,7 @@ TEST_F(CheckCommand, NeedsSomethingToCheck) {
     EXPECT_EQ(run(PROGRAM " check --lines missing").status, 2);
 }
 
-// The answer of a build, to which each mistake belongs with file, line, column, caret and rule.
+// A build with mistakes prints each one with file, line, column, caret and rule.
 TEST_F(CheckCommand, StopsBuilds) {
     write("CMakeLists.txt", "cmake_minimum_required(VERSION 3.25)\n"
                             "project(wrong LANGUAGES CXX)\n"
@@ -140,7 +141,8 @@ TEST_F(CheckCommand, StopsBuilds) {
              "Messages.mc:19:4: warning: ` number` is not a type",
              "Messages.mc:24:12: warning: `EEEE` is not a date letter; the day's name is `dddd` "
              "[date-letter]\n",
-             "Messages.mc:29:12: warning: `short` is not a style of `time` and is read as a pattern "
+             "Messages.mc:29:12: warning: `short` is not a style of `time` and is read as a "
+             "pattern "
              "[time-style]\n",
              "Messages.mc:34:22: warning: this limit is lower than the one before it: limits have "
              "to ascend [choice-order]\n",

@@ -1,4 +1,4 @@
-// The messages of modules and tables: what is read, what is refused, and how it is shown.
+// The messages of modules and tables: which files are read, which are refused, and the output.
 
 #include "tool/ElfBytes.h"
 #include "tool/Program.h"
@@ -33,7 +33,7 @@ std::string table(std::size_t entriesPerBlock) {
     return compileTables({&reading.catalogues[0]}, entriesPerBlock).at(0x409);
 }
 
-/// Returns the words with which a file is refused; empty if it is not.
+/// Returns the error for a file; empty if it is read.
 std::string refusalOf(const std::string& bytes) {
     try {
         readTables("x", bytes);
@@ -122,7 +122,7 @@ TEST(ModuleTablesTest, RefusesDamagedTables) {
     }
 }
 
-TEST_F(DumpCommandTest, ShowsWhatWasCompiled) {
+TEST_F(DumpCommandTest, ShowsCompiledMessages) {
     write("App.mc", catalogue);
     write("main.cpp", "#include <msglib/MessageLibrary.h>\nint main() {}\n");
     ASSERT_EQ(run("'" PROGRAM "' compile App.mc --output .").output, "");
@@ -156,7 +156,7 @@ TEST_F(DumpCommandTest, ReadsStrippedModules) {
 }
 #endif
 
-TEST_F(DumpCommandTest, EndsWithTheStatusOfWhatItFound) {
+TEST_F(DumpCommandTest, HasTheExitStatusOfTheFile) {
     write("empty.bin", std::string(4, '\0'));
     write("text", "text");
     const struct {

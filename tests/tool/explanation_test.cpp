@@ -1,4 +1,4 @@
-// Patterns in words.
+// Descriptions of patterns, and the intervals of choices.
 
 #include "tool/pattern/ChoiceIntervals.h"
 #include "tool/preview/Explanation.h"
@@ -95,7 +95,7 @@ TEST(Explanation, DescribesEveryStyle) {
          "  `d` day of the month: \"23\"\n"
          "  text \"/\"\n"
          "  `yyyy` year: \"2026\"\n"},
-        {__LINE__, "{0,time,Short}", // a word that is none
+        {__LINE__, "{0,time,Short}", // not a style word
          "argument 0: a date or time by `Short`\n"
          "  2026-11-23T15:30:45 shows \"S3orP\"\n"
          "  text \"S\"\n"
@@ -136,7 +136,7 @@ TEST(Explanation, NamesIntervals) {
     }
 }
 
-// Each number is in the interval of the text that the library chooses, and in no other.
+// Each number is only in the interval of the text that the library chooses.
 TEST(Explanation, HasTheIntervalsOfTheLibrary) {
     std::mt19937 random(3);
     for (int round = 0; round < 500; ++round) {
@@ -187,13 +187,13 @@ TEST(NumberInterval, IntersectsAndHasASample) {
     EXPECT_LT((NumberInterval{std::nullopt, -1e300}.sample()), -1e300);
 }
 
-TEST(Explanation, SaysWhatQuotingDid) {
+TEST(Explanation, ShowsEffectsOfQuoting) {
     const ExplanationCase cases[] = {
         {__LINE__, "it's", "text \"it's\"\n"},
         {__LINE__, "it''s '{'",
          "text \"it's {\"\n"
          "  written `it''s '{'`; quoting takes away ' (1:4), ' (1:7), ' (1:9)\n"},
-        {__LINE__, "''''", // a quoted apostrophe, and one that stands for itself
+        {__LINE__, "''''", // a quoted apostrophe, and a plain one
          "text \"''\"\n  written `''''`; quoting takes away ' (1:1), ' (1:3)\n"},
         {__LINE__, "{0,choice,0#it''s free|1#'a'b}",
          "argument 0 decides:\n"

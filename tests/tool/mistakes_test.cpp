@@ -1,5 +1,5 @@
-// What a build prints for the mistakes that authors usually make: each time one diagnostic, with its
-// source line and a caret.
+// The output of a build for common mistakes of authors: one diagnostic for each, with its source
+// line and a caret.
 
 #include "tool/Program.h"
 
@@ -15,7 +15,7 @@ struct Mistake {
     std::string app;  ///< the whole of App.mc
     std::string more; ///< the whole of More.mc
     bool stopsBuild;
-    std::string output; ///< what the build prints about it
+    std::string output; ///< of the build
 };
 
 std::string message(const std::string& pattern) {
@@ -55,7 +55,8 @@ const Mistake mistakes[] = {
      "    4 | On {0,date,EEEE}\n"
      "      |            ^~~~\n"},
     {__LINE__, message("At {0,time,short}"), fine, false,
-     "App.mc:4:12: warning: `short` is not a style of `time` and is read as a pattern [time-style]\n"
+     "App.mc:4:12: warning: `short` is not a style of `time` and is read as a pattern "
+     "[time-style]\n"
      "    4 | At {0,time,short}\n"
      "      |            ^~~~~\n"
      "App.mc:4:12: note: leave the style out, or write a pattern such as `HH:mm`\n"},

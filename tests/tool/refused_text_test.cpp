@@ -26,7 +26,7 @@ void check(const std::vector<Row>& rows) {
     }
 }
 
-TEST(RefusedTextTest, NamesWhatStatementsLack) {
+TEST(RefusedTextTest, ReportsWrongStatements) {
     check({
         {__LINE__, "", "1:1-1 file-syntax: no message in the file\n"},
         {__LINE__, ";\n", "1:1-1 file-syntax: no message in the file\n"},
@@ -85,7 +85,7 @@ TEST(RefusedTextTest, NamesWhatStatementsLack) {
     });
 }
 
-TEST(RefusedTextTest, NamesWhatListsLack) {
+TEST(RefusedTextTest, ReportsWrongLists) {
     const std::string message = "MessageId=1" + text;
     check({
         {__LINE__, "FacilityNames=A=1\n" + message,
@@ -112,7 +112,7 @@ TEST(RefusedTextTest, NamesWhatListsLack) {
     });
 }
 
-TEST(RefusedTextTest, NamesWhatTextsLack) {
+TEST(RefusedTextTest, ReportsWrongTexts) {
     const std::string german = "LanguageNames=(German=0x407:G)\n";
     const std::string head = "MessageId=1\nLanguage=English\n";
     check({
@@ -152,7 +152,7 @@ TEST(RefusedTextTest, NamesWhatTextsLack) {
     });
 }
 
-TEST(RefusedTextTest, AsksWhereReadersDisagree) {
+TEST(RefusedTextTest, ReportsAmbiguousHeads) {
     const std::string names = "FacilityNames=(A=1 B=2)\n";
     const std::string error = "MessageId=1 Severity=Error" + text;
     const std::string inA = "MessageId=1 Facility=A" + text;
@@ -186,11 +186,13 @@ TEST(RefusedTextTest, AsksWhereReadersDisagree) {
     });
 }
 
-TEST(RefusedTextTest, PointsAtIllegibleBytes) {
+TEST(RefusedTextTest, PointsAtInvalidBytes) {
     const std::string note = " (name the encoding of the file, as in --encoding CP1252)\n";
     check({
-        {__LINE__, ";\n;é\xE9\n", "2:3-3 file-encoding: the byte 0xE9 is not valid UTF-8 here" + note},
-        {__LINE__, "\xED\xA0\x80", "1:1-1 file-encoding: the byte 0xED is not valid UTF-8 here" + note},
+        {__LINE__, ";\n;é\xE9\n",
+         "2:3-3 file-encoding: the byte 0xE9 is not valid UTF-8 here" + note},
+        {__LINE__, "\xED\xA0\x80",
+         "1:1-1 file-encoding: the byte 0xED is not valid UTF-8 here" + note},
         {__LINE__, ";\xC3", "1:2-2 file-encoding: the byte 0xC3 is not valid UTF-8 here" + note},
         {__LINE__,
          {"\xFF\xFE;\0\n", 5},
@@ -198,7 +200,9 @@ TEST(RefusedTextTest, PointsAtIllegibleBytes) {
         {__LINE__,
          {"\xFE\xFF\0;\xDC\0\0;", 8},
          "1:2-2 file-encoding: the byte 0xDC is not valid UTF-16BE here" + note},
-        {__LINE__, {";\0;", 3}, "1:2-2 file-encoding: the byte 0x3B is not valid UTF-16LE here" + note},
+        {__LINE__,
+         {";\0;", 3},
+         "1:2-2 file-encoding: the byte 0x3B is not valid UTF-16LE here" + note},
         {__LINE__, {";a\n;\0b", 6}, "2:2-3 file-syntax: a NUL character in the text\n"},
         {__LINE__, ";\n;\r;\n", "2:2-3 file-syntax: a carriage return without a line feed\n"},
         {__LINE__, ";\x1A\n;\n",

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+// Tokens go in, values come out: numbers, words, and numbers that are declared by name. A list of
+// names is read entry by entry into the declared names of its kind. Every error is reported and
+// ends the statement with `Abandoned`.
+
 namespace zem::msglib::tool {
 
 namespace {

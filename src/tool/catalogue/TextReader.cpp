@@ -7,6 +7,10 @@
 #include <set>
 #include <string_view>
 
+// The lines after `Language` go in, the place of a text comes out. Each line is tested for the end
+// of the text, and for signs that the end is missing. When a message is complete, the directives in
+// its comments are applied to all of its texts, and their lengths are checked.
+
 namespace zem::msglib::tool {
 
 namespace {

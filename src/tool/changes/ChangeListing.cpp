@@ -7,6 +7,9 @@
 
 #include <algorithm>
 
+// A list of changes goes in, text or JSON comes out. In text, each change has one line, with its
+// columns aligned over all changes, and the old and new texts below. A summary comes last.
+
 namespace zem::msglib::tool {
 
 namespace {

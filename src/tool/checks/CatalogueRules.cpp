@@ -8,6 +8,10 @@
 #include <string_view>
 #include <unordered_map>
 
+// All catalogues of a module go in, diagnostics come out. One pass over all messages keeps the
+// first message with each symbol, identifier and facility. Each later message is compared with
+// these.
+
 namespace zem::msglib::tool {
 
 namespace {

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <string_view>
 
+// The table of rules goes in, text comes out: a list with one line for each rule, the explanation
+// of one rule, or the page of the documentation.
+
 namespace zem::msglib::tool {
 
 namespace {

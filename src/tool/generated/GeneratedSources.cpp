@@ -8,6 +8,10 @@
 #include <set>
 #include <string_view>
 
+// The names of a catalogue, its messages and tables go in, the texts of generated files come out: a
+// header, a source and a resource script. The source contains each table as a note in assembler,
+// and the function that registers the facilities.
+
 namespace zem::msglib::tool {
 
 namespace {

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+// A text is either a part of the source file, or joined from pieces. A joined text has a list of
+// runs, each with its position in the text and its offset in the file. Places are found in this
+// list by bisection. `TextTracer` starts to join only at the second piece.
+
 namespace zem::msglib::tool {
 
 namespace {

@@ -5,6 +5,10 @@
 #include "platform/MessageTables.h"
 #include "platform/portable/TableReader.h"
 
+// The bytes of a table go in, its texts come out. The blocks are read in order, then the entries of
+// each block. Every offset and length is checked before it is used, and the total length of entries
+// is bounded by the table, so the time is linear.
+
 namespace zem::msglib::tool {
 
 namespace {

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <numeric>
 
+// A wrong word and the known names go in, the name that was probably meant comes out. The distance
+// of two words is the number of their insertions, deletions and replacements. Limits on the length
+// of words and the number of names bound the time.
+
 namespace zem::msglib::tool {
 
 namespace {

@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             checkLookUp(bytes, tables.front().texts);
         }
     } catch (const zem::msglib::tool::CannotRun& refusal) {
-        require(refusal.what() != std::string(), "a refusal has words");
+        require(refusal.what() != std::string(), "a refusal has a message");
     }
     return 0;
 }

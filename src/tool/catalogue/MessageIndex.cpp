@@ -10,8 +10,8 @@
 #include <optional>
 
 // A catalogue goes in, an index of its messages by identifier comes out. The heads of one
-// identifier are joined into one message. A lookup tries the symbolic name first, then the whole
-// identifier, then the message number. If all fail, the error suggests a similar name.
+// identifier are joined into one message. A lookup compares symbolic names and whole identifiers,
+// then message numbers. If all fail, the error suggests a similar name.
 
 namespace zem::msglib::tool {
 

@@ -1,4 +1,4 @@
-// The check of patterns against the library: as a message, and inside choices and styles.
+// Compares the check of patterns with the library: as a message, and inside choices and styles.
 
 #include "Properties.h"
 #include "support/CheckProperties.h"

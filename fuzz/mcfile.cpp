@@ -1,5 +1,5 @@
-// Message text files. The input is an encoding in the first line and a file after it, which is
-// read, checked, compiled and read back.
+// Message text files. The input is an encoding in the first line and a file after it. The file is
+// read, checked and compiled, and the tables are read back.
 
 #include "Properties.h"
 
@@ -32,12 +32,12 @@ void checkPlace(const Place& place) {
             "a place is some characters of its file");
 }
 
-/// Checks that the diagnostics have words and valid places, and are UTF-8 in every format.
+/// Checks that the diagnostics have messages and valid places, and are UTF-8 in every format.
 void checkDiagnostics(const std::vector<Diagnostic>& diagnostics) {
     std::size_t last = 0;
     for (const Diagnostic& diagnostic : diagnostics) {
         checkPlace(diagnostic.place);
-        require(!diagnostic.words.empty(), "a diagnostic has words");
+        require(!diagnostic.message.empty(), "a diagnostic has a message");
         require(diagnostic.severity != Severity::off, "a diagnostic has a severity");
         require(diagnostic.place.offset >= last, "diagnostics are in order");
         last = diagnostic.place.offset;

@@ -1,4 +1,4 @@
-// Modules and message tables of any bytes, as the tool for authors reads them.
+// Modules and message tables of any bytes, read by the host program.
 
 #include "Properties.h"
 
@@ -26,7 +26,7 @@ void checkListings(const std::vector<LanguageTable>& tables) {
     require(textOf(tables, false).find('\x1B') == std::string::npos, "controls are not shown");
 }
 
-/// Checks that the library finds what has been decoded.
+/// Checks that the library finds every decoded message.
 void checkLookUp(const std::string& bytes, const TableTexts& texts) {
     const platform::TableReader reader({bytes.data(), bytes.size()});
     for (const auto& [id, text] : texts) {
@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             checkLookUp(bytes, tables.front().texts);
         }
     } catch (const zem::msglib::tool::CannotRun& refusal) {
-        require(refusal.what() != std::string(), "a refusal has words");
+        require(refusal.what() != std::string(), "a refusal has a message");
     }
     return 0;
 }

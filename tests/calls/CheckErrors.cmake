@@ -1,4 +1,4 @@
-# Compiles SOURCE and compares the errors with those in its comments: exactly one for each call.
+# Compiles SOURCE and compares the errors with those in its comments, exactly one for each call.
 
 file(STRINGS ${SOURCE} expected REGEX "^ *// error: ")
 list(TRANSFORM expected REPLACE "^ *// error: (.+)$" "CallTexts::\\1")

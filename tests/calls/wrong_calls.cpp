@@ -1,5 +1,5 @@
-// Calls that don't compile. The comment before each is the one error that compilers report for it,
-// without the namespace.
+// Calls that do not compile. The comment before each call is the single error that compilers report
+// for it, without the namespace.
 
 #include "CallTextsCalls.h"
 

@@ -1,4 +1,4 @@
-// The commands of the program that check and explain, as people and builds call them.
+// The commands `check`, `rules` and `explain-rule`, run as people and builds run them.
 
 #include "tool/Program.h"
 
@@ -18,7 +18,7 @@ std::string contentOf(const std::string& path) {
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-// The output of wrong catalogues is that of the files beside them, which documentation shows.
+// The output for wrong catalogues is in the files beside them, which the documentation shows.
 TEST_F(CheckCommand, ReportsWrongCatalogues) {
     const std::string wrong = EXAMPLES_FOLDER "/wrong/";
     for (const char* const name : {"FirstMistakes", "WrongMessages"}) {
@@ -48,7 +48,7 @@ TEST_F(CheckCommand, ComparesTranslationsWhereverTheyAre) {
                               "      |      ^\n");
 }
 
-TEST_F(CheckCommand, ChecksPatternsThatLiveElsewhere) {
+TEST_F(CheckCommand, ChecksPatternsOutsideOfCatalogues) {
     const Outcome pattern = run(PROGRAM " check --pattern '{0}' --pattern '{x}'");
     EXPECT_EQ(pattern.output, "pattern:1:2: error: Illegal argument in format string [syntax]\n"
                               "    1 | {x}\n"
@@ -57,15 +57,16 @@ TEST_F(CheckCommand, ChecksPatternsThatLiveElsewhere) {
                               "pattern:1:2: note: to show the brace, write `'{'`\n");
     EXPECT_EQ(pattern.status, 1);
     write("patterns", "{0}\n\na}b\n{0,Number}");
-    const std::string found = "patterns:3:2: error: unexpected closing brace [syntax]\n"
-                              "    3 | a}b\n"
-                              "      |  ^\n"
-                              "patterns:3:2: note: to show the brace, write `'}'`\n"
-                              "patterns:4:4: warning: `Number` is no type: this shows what `{0}` "
-                              "shows [unknown-type]\n"
-                              "    4 | {0,Number}\n"
-                              "      |    ^~~~~~\n"
-                              "patterns:4:4: note: did you mean `number`?\n";
+    const std::string found =
+        "patterns:3:2: error: unexpected closing brace [syntax]\n"
+        "    3 | a}b\n"
+        "      |  ^\n"
+        "patterns:3:2: note: to show the brace, write `'}'`\n"
+        "patterns:4:4: warning: `Number` is not a type: this shows what `{0}` "
+        "shows [unknown-type]\n"
+        "    4 | {0,Number}\n"
+        "      |    ^~~~~~\n"
+        "patterns:4:4: note: did you mean `number`?\n";
     EXPECT_EQ(run(PROGRAM " check --lines patterns").output, found);
     EXPECT_EQ(run(PROGRAM " check --lines - < patterns").status, 1);
     EXPECT_EQ(run(PROGRAM " check --pattern \"$(printf 'a\\344')\"").status, 1);
@@ -89,7 +90,7 @@ TEST_F(CheckCommand, AllowsRulesInOneMessage) {
               "A.mc(8,7): warning quote-vanishes: apostrophes around one character quote it and "
               "are not shown\n"
               "A.mc(8,7): note: write ’ (U+2019) for an apostrophe that is shown\n"
-              "A.mc(8,14): warning foreign-insert: `%1` is shown as it stands\n"
+              "A.mc(8,14): warning foreign-insert: `%1` is shown unchanged\n"
               "A.mc(8,14): note: arguments are counted from 0: write `{0}`\n");
 }
 
@@ -109,7 +110,7 @@ TEST_F(CheckCommand, NeedsSomethingToCheck) {
     EXPECT_EQ(run(PROGRAM " check --lines missing").status, 2);
 }
 
-// The answer of a build, to which each mistake belongs with file, line, column, caret and rule.
+// A build with mistakes prints each one with file, line, column, caret and rule.
 TEST_F(CheckCommand, StopsBuilds) {
     write("CMakeLists.txt", "cmake_minimum_required(VERSION 3.25)\n"
                             "project(wrong LANGUAGES CXX)\n"
@@ -133,14 +134,15 @@ TEST_F(CheckCommand, StopsBuilds) {
              "Messages.mc:9:29: error: Illegal argument in format string [syntax]\n"
              "    9 | {0 files were copied to {1}.\n"
              "      |                             ^\n",
-             "Messages.mc:14:4: warning: `Number` is no type: this shows what `{0}` shows "
+             "Messages.mc:14:4: warning: `Number` is not a type: this shows what `{0}` shows "
              "[unknown-type]\n"
              "   14 | {0,Number} of {1} files.\n"
              "      |    ^~~~~~\n",
-             "Messages.mc:19:4: warning: ` number` is no type",
-             "Messages.mc:24:12: warning: `EEEE` is no date letter; the day's name is `dddd` "
+             "Messages.mc:19:4: warning: ` number` is not a type",
+             "Messages.mc:24:12: warning: `EEEE` is not a date letter; the day's name is `dddd` "
              "[date-letter]\n",
-             "Messages.mc:29:12: warning: `short` is no style of `time` and is read as a pattern "
+             "Messages.mc:29:12: warning: `short` is not a style of `time` and is read as a "
+             "pattern "
              "[time-style]\n",
              "Messages.mc:34:22: warning: this limit is lower than the one before it: limits have "
              "to ascend [choice-order]\n",
@@ -149,7 +151,7 @@ TEST_F(CheckCommand, StopsBuilds) {
              "   39 | {0,choice,0#none|1#{1,choice,0#it''s free|1#that''s {0}}}, they're {2}\n"
              "      |                                  ^~~~\n",
              "Messages.mc:44:15: error: \"ä\" has the byte A4",
-             "Messages.mc:49:8: warning: `%1` is shown as it stands [foreign-insert]\n",
+             "Messages.mc:49:8: warning: `%1` is shown unchanged [foreign-insert]\n",
              "Messages.mc:52:38: error: there is no facility Ap [file-syntax]\n",
              "Utf16.mc:3:3: error: Illegal argument in format string [syntax]\n"
              "    3 | {0\n"

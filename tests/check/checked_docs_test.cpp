@@ -1,5 +1,5 @@
-// The check over the examples of the documentation: what fails there for its syntax is an error,
-// and what surprises has a diagnostic, or is listed below as what deserves none.
+// Checks the examples of the documentation. Examples that fail for their syntax must be errors.
+// Surprising examples must have a diagnostic, or be listed below as correct.
 
 #include "check/Checking.h"
 #include "support/CheckedTables.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr const char* pages[] = {"/message-patterns.md", "/choice-patterns.md", "/date-patterns.md",
                                  "/decimal-patterns.md", "/failures.md"};
 
-/// Returns the pattern of a row as a message; those of formatters become a style.
+/// Returns the pattern of a row as a message. The pattern of a formatter becomes a style.
 std::string messageOf(const CheckedRow& row) {
     std::string pattern = bytesOf(row.cells[0]);
     if (row.kind == "message") {
@@ -26,9 +26,9 @@ std::string messageOf(const CheckedRow& row) {
            pattern + "}";
 }
 
-// Surprising rows that are right as they are, or wrong only with certain arguments.
+// Surprising rows that are correct, or wrong only with certain arguments.
 const std::set<std::string> deserveNone = {
-    // The argument decides, or nothing else could be meant.
+    // The argument decides, or the pattern has only one reasonable meaning.
     "`{0}`",
     "`{0,number,percent}`",
     "`{0,time,yyyy}`",
@@ -48,7 +48,7 @@ const std::set<std::string> deserveNone = {
     "`0 m²`",
     "`0 Äpfel`",
     "`{0,number,#,##0.00}`",
-    // Apostrophes as the row before recommends them, or around a placeholder, as texts have them.
+    // Apostrophes that the row before recommends, or that texts have around a placeholder.
     "`the '{0}' file`",
     "`{0,number,0 'E'UR}`",
     "`0 'E'UR`",
@@ -75,7 +75,7 @@ TEST(CheckedDocs, SurprisesHaveDiagnostics) {
     }
 }
 
-TEST(CheckedDocs, ErrorsAreWhatFails) {
+TEST(CheckedDocs, ErrorsAreExactlyTheFailures) {
     const std::set<std::string> depending = {
         // on the arguments
         "fails: Argument index in format exceeds number of specified arguments",

@@ -1,4 +1,4 @@
-// What the check reports about a pattern, where, and about which similar ones it is silent.
+// The diagnostics of patterns and their places, and similar patterns without diagnostics.
 
 #include "check/Checking.h"
 
@@ -13,14 +13,14 @@ struct ReportCase {
     const char* diagnostics;
 };
 
-TEST(PatternCheck, PointsAtWhatIsWrong) {
+TEST(PatternCheck, PointsAtMistakes) {
     const ReportCase cases[] = {
         {__LINE__, "{0,choice,0#none|1#{1,choice,0#it''s free|1#that''s {2,Number}}}",
          "1:34-38 choice-quote: in a choice, this apostrophe takes \"s\" and drops the blank after "
          "it: shows \"itsfree\" (write ’ (U+2019), or 10 apostrophes at this depth)\n"
          "1:49-53 choice-quote: in a choice, this apostrophe takes \"s\" and drops the blank after "
          "it: shows \"thats\" (write ’ (U+2019), or 10 apostrophes at this depth)\n"
-         "1:56-62 unknown-type: `Number` is no type: this shows what `{2}` shows (did you mean "
+         "1:56-62 unknown-type: `Number` is not a type: this shows what `{2}` shows (did you mean "
          "`number`?)\n"},
         {__LINE__, "a{0",
          "1:4-4 syntax: Illegal argument in format string (1:2-3 this brace is not closed)\n"},
@@ -95,7 +95,7 @@ void expectRules(const RuleCase& row) {
     EXPECT_EQ(rulesOf(row.pattern), row.rules) << "line " << row.line << ": " << row.pattern;
 }
 
-TEST(PatternCheck, IsSilentAboutWhatIsMeant) {
+TEST(PatternCheck, AcceptsCorrectPatterns) {
     const RuleCase cases[] = {
         {__LINE__, "", ""},
         {__LINE__, "{0} { 1 }{+2}{03}{4 }", ""},
@@ -174,7 +174,7 @@ TEST(PatternCheck, NamesTheRule) {
     }
 }
 
-TEST(PatternCheck, AsksForUnusedArgumentsOnlyIfDenied) {
+TEST(PatternCheck, ReportsUnusedArgumentsOnlyIfDenied) {
     EXPECT_EQ(rulesOf("{0}{2}", {{}, {"unused-argument"}}), "unused-argument ");
     EXPECT_EQ(rulesOf("{1,choice,0#{0}|1#{2}}", {{}, {"unused-argument"}}), "");
 }
@@ -191,8 +191,8 @@ TEST(PatternCheck, CountsApostrophesByTrying) {
     EXPECT_NE(diagnosed(deep).find("(write ’ (U+2019))"), std::string::npos) << diagnosed(deep);
 }
 
-// Hostile input: neither the time nor the machine stack follows the nesting.
-TEST(PatternCheck, StandsAnyNesting) {
+// Hostile input: deep nesting must not exhaust the machine stack, nor take much time.
+TEST(PatternCheck, AcceptsAnyNesting) {
     std::string opened;
     for (int level = 0; level < 20000; ++level) {
         opened += "{0,choice,0#it's |1#";

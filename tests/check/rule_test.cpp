@@ -1,4 +1,4 @@
-// The rules' own table: its examples are true, and the documentation is made from it.
+// The table of rules: its examples are true, and the documentation is generated from it.
 
 #include "check/Checking.h"
 #include "tool/catalogue/CallSignatures.h"
@@ -60,7 +60,7 @@ TEST(Rules, NamesAreUnique) {
     }
 }
 
-TEST(Rules, PageIsMadeFromThem) {
+TEST(Rules, PageIsGeneratedFromRules) {
     std::ifstream page(DOCS_FOLDER "/rules.md", std::ios::binary);
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(page), {}), rulePage())
         << "write it by `msglib rules --markdown > docs/rules.md`";

@@ -1,6 +1,7 @@
-# Builds a project of catalogues, edits them and builds again. What is built anew shows in the output of the generator.
+# Builds a project of catalogues, edits them and builds again. The output of the generator shows
+# what is built again.
 
-# Runs a command, which has to succeed, and puts its output into `result`.
+# Runs a command, which must succeed, and stores its output in `result`.
 function(run result)
     execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status)
     if(NOT status EQUAL 0)
@@ -9,7 +10,7 @@ function(run result)
     set(${result} "${output}" PARENT_SCOPE)
 endfunction()
 
-# Checks that a text has, or has not, what a regular expression describes.
+# Checks that a text matches, or does not match, a regular expression.
 function(expect text has expression)
     if((has STREQUAL "WITH" AND NOT text MATCHES "${expression}") OR
        (has STREQUAL "WITHOUT" AND text MATCHES "${expression}"))
@@ -48,7 +49,7 @@ expect("${output}" WITHOUT "-c [^\n]*\\.cpp")
 run(output ${build})
 expect("${output}" WITHOUT "msglib\"? compile")
 
-# An identifier that two catalogues of a target have stops the build.
+# An identifier in two catalogues of a target stops the build.
 file(READ "${TREE}/source/parts/late.mc" text)
 string(REPLACE "0x204" "0x201" text "${text}")
 file(WRITE "${TREE}/source/parts/late.mc" "${text}")

@@ -7,7 +7,7 @@
 
 namespace zem::msglib::tool {
 
-/// What kind of ELF file is made.
+/// The form of an ELF file.
 struct ElfForm {
     bool is64 = true;
     bool isBigEndian = false;
@@ -19,9 +19,9 @@ class ElfBytes {
 public:
     explicit ElfBytes(ElfForm form) : form_(form) {}
 
-    /// Adds a note as the compiled sources have it.
+    /// Adds a note as compiled catalogues have it.
     ///
-    /// @param size  of the table, as the note says it
+    /// @param size  of the table, as written in the note
     void addTable(std::uint32_t language, const std::string& table, std::size_t size) {
         const std::size_t padded = (8 + table.size() + 7) / 8 * 8;
         notes_ += number(11, 4) + number(padded, 4) + number(0x4d544231, 4) +

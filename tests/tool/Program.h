@@ -10,13 +10,13 @@
 
 namespace zem::msglib::tool {
 
-/// What a program has written, and its exit status.
+/// The output of a program, and its exit status.
 struct Outcome {
     int status;
     std::string output; ///< standard output and standard error
 };
 
-/// Gives every test an empty folder of its own, and removes it afterwards.
+/// Creates an empty folder for each test, and removes it afterwards.
 class FolderTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -25,7 +25,7 @@ protected:
     }
     void TearDown() override { std::filesystem::remove_all(folder_); }
 
-    /// Runs a command of the shell in the folder.
+    /// Runs a shell command in the folder.
     Outcome run(const std::string& command) const {
         Outcome outcome{0, {}};
         const std::string line = "{ cd '" + folder_.string() + "' && " + command + "\n} 2>&1";

@@ -11,7 +11,7 @@
 
 namespace zem::msglib::tool {
 
-/// What comes of catalogues that are read and checked together.
+/// The results of catalogues that are read and checked together.
 struct Reading {
     std::vector<Catalogue> catalogues;
     std::vector<Diagnostic> diagnostics;
@@ -33,8 +33,8 @@ inline Reading readAll(const std::vector<std::string>& files, const SeverityPoli
     return reading;
 }
 
-/// Returns diagnostics as `file:line:column-endColumn rule: words`, each with a line end. Only the
-/// first file has no name, and notes follow in parentheses.
+/// Returns diagnostics as `file:line:column-endColumn rule: message`, each with a line end. The
+/// name of the first file is left out, and notes follow in parentheses.
 inline std::string dump(const std::vector<Diagnostic>& diagnostics) {
     std::string out;
     const auto add = [&out](const Place& place) {
@@ -46,14 +46,14 @@ inline std::string dump(const std::vector<Diagnostic>& diagnostics) {
     };
     for (const Diagnostic& diagnostic : diagnostics) {
         add(diagnostic.place);
-        out += " " + std::string(diagnostic.rule->name) + ": " + diagnostic.words;
+        out += " " + std::string(diagnostic.rule->name) + ": " + diagnostic.message;
         for (const Note& note : diagnostic.notes) {
             out += " (";
             if (note.place.file != nullptr) {
                 add(note.place);
                 out += " ";
             }
-            out += note.words + ")";
+            out += note.message + ")";
         }
         out += "\n";
     }

@@ -1,4 +1,4 @@
-// Arguments as people write them, and the lines that show them.
+// Arguments in their written form, and the lines that show them.
 
 #include "tool/text/ArgumentText.h"
 #include "tool/text/CannotRun.h"
@@ -38,7 +38,7 @@ struct Dumped {
     }
 };
 
-/// Returns the kind and value of an argument, or "!" and the words of its refusal.
+/// Returns the kind and value of an argument, or "!" and the error.
 std::string dumped(const std::string& text) {
     try {
         const WrittenArgument argument = readArgument(text);
@@ -109,7 +109,7 @@ TEST(ArgumentText, IsReadAsWritten) {
     }
 }
 
-// What a table of samples shows for an argument makes the same text when it is given.
+// An argument as a table of samples shows it renders to the same text when it is read again.
 TEST(ArgumentText, ReadsWhatItWrites) {
     for (const double value : {0.0, -0.0, 7.0, -1.0, 0.1, 1e15, 123456789012345.0, -1e300, 5e-324,
                                0.1 + 0.2, double(INFINITY), 1e-7}) {

@@ -1,5 +1,6 @@
-// Runs the commands of the page for authors and compares what they print. Blocks of the page are marked:
-// "<!-- file NAME -->" is before the content of a file, "<!-- console -->" before commands, each after "$ ", and their output.
+// Runs the commands of the page for authors and compares what they print. Blocks of the page are
+// marked: "<!-- file NAME -->" comes before the content of a file, "<!-- console -->" before
+// commands, each after "$ ", and their output.
 
 #include "tool/Program.h"
 
@@ -42,7 +43,7 @@ std::vector<Block> codeBlocks(const std::string& path) {
 
 class AuthorsPage : public FolderTest {};
 
-TEST_F(AuthorsPage, ShowsWhatTheProgramPrints) {
+TEST_F(AuthorsPage, MatchesTheOutputOfTheProgram) {
     const std::vector<Block> blocks = codeBlocks(DOCS_FOLDER "/authors.md");
     ASSERT_GE(blocks.size(), 10U);
     std::filesystem::copy(PLUG_IN, folder_);

@@ -1,4 +1,5 @@
-// What concerns several messages, over all files that are checked together, and what silences it.
+// The rules about several messages, over all files that are checked together, and comments that
+// allow them.
 
 #include "tool/Reading.h"
 #include "tool/text/CannotRun.h"
@@ -8,7 +9,7 @@
 namespace zem::msglib::tool {
 namespace {
 
-/// Returns a message of a number, with more in its head and its text.
+/// Returns a message with a number, more statements in its head, and its text.
 std::string message(const std::string& number, const std::string& head = "",
                     const std::string& language = "English") {
     return "MessageId=" + number + " " + head + "\nLanguage=" + language + "\nx\n.\n";
@@ -40,7 +41,7 @@ TEST(CatalogueRulesTest, ChecksAllFilesTogether) {
         // symbols
         {__LINE__,
          {message("1", "SymbolicName=A") + message("2", "SymbolicName=A")},
-         "5:26-27 duplicate-symbol: this symbolic name stands for 0x00000001 already, and here for "
+         "5:26-27 duplicate-symbol: this symbolic name already stands for 0x00000001, and here for "
          "0x00000002 (1:26-27 the first one is here)\n"},
         {__LINE__,
          {names + message("1", "SymbolicName=A") + message("1", "SymbolicName=A", "German")},
@@ -58,16 +59,16 @@ TEST(CatalogueRulesTest, ChecksAllFilesTogether) {
          "1.mc:2:1-10 facility-clash: the facilities of 0x08120001 and 0x00120001 stand for one "
          "module, since they differ in bit 27 only (2:1-10 the other message is here)\n"},
         {__LINE__, {names + message("1", "Facility=B")}, ""},
-        // names that C++ has
+        // names that are reserved in C++
         {__LINE__,
          {message("1", "SymbolicName=default") + message("2", "SymbolicName=EOF") +
           message("3", "SymbolicName=_A") + message("4", "SymbolicName=a__b") +
           message("5", "SymbolicName=Default") + message("6", "SymbolicName=_a")},
-         "1:26-33 reserved-symbol: this is a keyword of C++, no name of a constant\n"
+         "1:26-33 reserved-symbol: this is a keyword of C++, not a name for a constant\n"
          "5:26-29 reserved-symbol: this is a macro of the C library\n"
-         "9:26-28 reserved-symbol: names with such underscores are the compiler's\n"
-         "13:26-30 reserved-symbol: names with such underscores are the compiler's\n"},
-        // messages with errors of their own are no reason for more
+         "9:26-28 reserved-symbol: names with such underscores are reserved for the compiler\n"
+         "13:26-30 reserved-symbol: names with such underscores are reserved for the compiler\n"},
+        // messages with errors cause no further diagnostics
         {__LINE__,
          {message("1") + message("1", "Severity=X") + message("1", "", "Swedish")},
          "5:22-23 file-syntax: there is no severity X (declare it before the message: "
@@ -98,7 +99,7 @@ TEST(CatalogueRulesTest, ObeysAllowancesInComments) {
          "1:26-29 reserved-symbol: this is a macro of the C library\n5:20-35 unused-allow: nothing "
          "to allow: the message has no diagnostic of this rule\n"},
         {__LINE__, "; // msglib: allow reserved-symbol reserved-symbol\n" + reserved,
-         "1:36-51 unused-allow: the message allows this rule already\n"},
+         "1:36-51 unused-allow: the message already allows this rule\n"},
         {__LINE__, "; // msglib: allow file-syntax other\n" + message("1"),
          "1:20-31 unused-allow: this rule cannot be allowed\n1:32-37 unused-allow: there is no "
          "such rule\n"},
@@ -120,7 +121,7 @@ TEST(CatalogueRulesTest, ObeysAllowancesInComments) {
     }
 }
 
-TEST(CatalogueRulesTest, ChangesSeveritiesAsAsked) {
+TEST(CatalogueRulesTest, ChangesSeveritiesByOptions) {
     const std::string file = "LanguageNames=(German=0x407:G)\n; // msglib: allow file-syntax\n" +
                              message("1", "SymbolicName=EOF", "German");
     const auto severities = [&](const SeverityPolicy& policy) {

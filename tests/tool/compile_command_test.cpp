@@ -1,4 +1,5 @@
-// The program as the build and authors run it: what it writes, and how it ends.
+// The command `compile` as builds and authors run it: the files that it writes, and its exit
+// status.
 
 #include "tool/Program.h"
 
@@ -75,7 +76,7 @@ TEST_F(CompileCommandTest, TouchesNoFileThatStaysTheSame) {
 
 TEST_F(CompileCommandTest, WritesAllFilesOrNone) {
     write("App.mc", good);
-    fs::create_directories(folder_ / "out/App.cpp"); // in the way
+    fs::create_directories(folder_ / "out/App.cpp"); // a folder in the place of the file
     const Outcome outcome = compile("App.mc --output out");
     EXPECT_EQ(outcome.status, 2);
     EXPECT_NE(outcome.output.find("out/App.cpp: cannot be written"), std::string::npos)
@@ -98,7 +99,7 @@ TEST_F(CompileCommandTest, WritesAllFilesOrNone) {
     EXPECT_FALSE(fs::exists(folder_ / "full/App.cpp.new"));
 }
 
-TEST_F(CompileCommandTest, EndsWithTheStatusOfWhatItFound) {
+TEST_F(CompileCommandTest, HasTheExitStatusOfItsDiagnostics) {
     fs::create_directories(folder_ / "b");
     for (const char* const name :
          {"Good.mc", "b/Good.mc", "go od.mc", "go-od.mc", "GoodCalls.mc", "a\"b.mc"}) {

@@ -1,4 +1,4 @@
-// The forms in which diagnostics are written.
+// The output forms of diagnostics.
 
 #include "tool/Reading.h"
 #include "tool/diagnostics/DiagnosticJson.h"
@@ -35,8 +35,7 @@ TEST(DiagnosticFormTest, TextHasLineAndCaret) {
 )");
 }
 
-/// Returns the lines with the excerpt of a diagnostic about the first "!" of a line and what
-/// follows.
+/// Returns the excerpt of a diagnostic about `length` bytes from the first "!" of a line on.
 std::string excerpt(const std::string& line, std::size_t length) {
     const SourceFile source("x", "\n" + line + "\n");
     Diagnostics diagnostics;
@@ -57,7 +56,7 @@ TEST(DiagnosticFormTest, CaretStaysBelowItsPlace) {
         {__LINE__, "a\tb!c", 2, "    2 | a\tb!c\n      |  \t ^~\n"},
         {__LINE__, "äöü!€𝄞", 8, "    2 | äöü!€𝄞\n      |    ^~~\n"},
         {__LINE__, "\x1B[m\x7F\u0085!", 1, "    2 | \uFFFD[m\uFFFD\uFFFD!\n      |      ^\n"},
-        // the rest of a place beyond its line
+        // places that go beyond their line
         {__LINE__, "!b", 4, "    2 | !b\n      | ^~\n"},
         // long lines
         {__LINE__, filler + "!" + filler, 3,
@@ -90,7 +89,7 @@ TEST(DiagnosticFormTest, MsvcHasPositionsInParentheses) {
               "0.mc(11,22): note: did you mean Error?\n");
 }
 
-TEST(DiagnosticFormTest, JsonHasEverything) {
+TEST(DiagnosticFormTest, JsonHasAllMembers) {
     const auto all = nlohmann::json::parse(jsonOf(readAll({file}).diagnostics));
     ASSERT_EQ(all.size(), 3U);
     EXPECT_EQ(all[1], nlohmann::json::parse(R"({

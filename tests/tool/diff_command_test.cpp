@@ -1,4 +1,5 @@
-// What is said about two versions of a catalogue, and whether callers of the old one still fit.
+// The reported changes between two versions of a catalogue, and whether callers of the old one
+// still fit.
 
 #include "tool/Program.h"
 
@@ -25,7 +26,7 @@ protected:
     }
 };
 
-TEST_F(DiffCommandTest, TellsWhatChangedAndWhatBreaks) {
+TEST_F(DiffCommandTest, ReportsChangesAndWhetherTheyBreakCallers) {
     const std::string a = "1 SymbolicName=A";
     const std::string german = "LanguageNames=(German=0x407:G)\n";
     const struct {
@@ -101,7 +102,7 @@ TEST_F(DiffCommandTest, ComparesTextsWithTables) {
     EXPECT_EQ(run("cat App.mc | '" PROGRAM "' diff - App.mc").output, "no changes\n");
 }
 
-TEST_F(DiffCommandTest, ShowsWhatTheDocumentationShows) {
+TEST_F(DiffCommandTest, MatchesTheDocumentation) {
     const std::string catalogue = ROOT "/examples/desktop/DesktopMessages.mc";
     const Outcome outcome = run("sed 's/ to “{1}”//; s/MessageId=4/MessageId=6/' '" + catalogue +
                                 "' | '" PROGRAM "' diff '" + catalogue + "' - | sed 's/^./    &/'");
@@ -110,7 +111,7 @@ TEST_F(DiffCommandTest, ShowsWhatTheDocumentationShows) {
     EXPECT_NE(page.find("\n\n" + outcome.output + "\n"), std::string::npos) << outcome.output;
 }
 
-TEST_F(DiffCommandTest, CannotCompareWhatCannotBeRead) {
+TEST_F(DiffCommandTest, RefusesFilesThatCannotBeRead) {
     write("Good.mc", message("1", "x"));
     write("Wrong.mc", "MessageId=1\n");
     write("Warned.mc", message("1 SymbolicName=EOF", "x"));

@@ -1,4 +1,4 @@
-// The messages of modules and tables: what is read, what is refused, and how it is shown.
+// The messages of modules and tables: which files are read, which are refused, and the output.
 
 #include "tool/ElfBytes.h"
 #include "tool/Program.h"
@@ -33,7 +33,7 @@ std::string table(std::size_t entriesPerBlock) {
     return compileTables({&reading.catalogues[0]}, entriesPerBlock).at(0x409);
 }
 
-/// Returns the words with which a file is refused; empty if it is not.
+/// Returns the error for a file; empty if it is read.
 std::string refusalOf(const std::string& bytes) {
     try {
         readTables("x", bytes);
@@ -122,7 +122,7 @@ TEST(ModuleTablesTest, RefusesDamagedTables) {
     }
 }
 
-TEST_F(DumpCommandTest, ShowsWhatWasCompiled) {
+TEST_F(DumpCommandTest, ShowsCompiledMessages) {
     write("App.mc", catalogue);
     write("main.cpp", "#include <msglib/MessageLibrary.h>\nint main() {}\n");
     ASSERT_EQ(run("'" PROGRAM "' compile App.mc --output .").output, "");
@@ -156,7 +156,7 @@ TEST_F(DumpCommandTest, ReadsStrippedModules) {
 }
 #endif
 
-TEST_F(DumpCommandTest, EndsWithTheStatusOfWhatItFound) {
+TEST_F(DumpCommandTest, HasTheExitStatusOfTheFile) {
     write("empty.bin", std::string(4, '\0'));
     write("text", "text");
     const struct {
@@ -165,9 +165,9 @@ TEST_F(DumpCommandTest, EndsWithTheStatusOfWhatItFound) {
         int status;
         const char* words;
     } rows[] = {
-        {__LINE__, "empty.bin", 1, "empty.bin: there are no messages in it"},
+        {__LINE__, "empty.bin", 1, "empty.bin: this file has no messages"},
         {__LINE__, "empty.bin --format json", 1, "[]"},
-        {__LINE__, "'" PROGRAM "'", 1, "there are no messages in it"},
+        {__LINE__, "'" PROGRAM "'", 1, "this file has no messages"},
         {__LINE__, "text", 2, "text: this is neither a module"},
         {__LINE__, "missing", 2, "missing: cannot be read"},
         {__LINE__, "", 2, "MODULE is required"},

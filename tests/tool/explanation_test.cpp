@@ -1,4 +1,4 @@
-// Patterns in words.
+// Descriptions of patterns, and the intervals of choices.
 
 #include "tool/pattern/ChoiceIntervals.h"
 #include "tool/preview/Explanation.h"
@@ -27,7 +27,7 @@ struct ExplanationCase {
 };
 
 const std::string byKind =
-    "as its kind asks: 1234 shows \"1,234\", 1234.5 shows \"1,234.50\", a text stays as it is\n";
+    "by its kind: 1234 shows \"1,234\", 1234.5 shows \"1,234.50\", a text stays as it is\n";
 
 TEST(Explanation, DescribesEveryStyle) {
     const ExplanationCase cases[] = {
@@ -95,7 +95,7 @@ TEST(Explanation, DescribesEveryStyle) {
          "  `d` day of the month: \"23\"\n"
          "  text \"/\"\n"
          "  `yyyy` year: \"2026\"\n"},
-        {__LINE__, "{0,time,Short}", // a word that is none
+        {__LINE__, "{0,time,Short}", // not a style word
          "argument 0: a date or time by `Short`\n"
          "  2026-11-23T15:30:45 shows \"S3orP\"\n"
          "  text \"S\"\n"
@@ -108,7 +108,7 @@ TEST(Explanation, DescribesEveryStyle) {
         EXPECT_EQ(explained(row.pattern), row.words) << "line " << row.line;
     }
     EXPECT_EQ(explained("{2}"), "argument 2 " + byKind);
-    EXPECT_EQ(explained("{0,Number,0}"), "argument 0: `Number` is no type\n  " + byKind);
+    EXPECT_EQ(explained("{0,Number,0}"), "argument 0: `Number` is not a type\n  " + byKind);
 }
 
 TEST(Explanation, NamesIntervals) {
@@ -136,7 +136,7 @@ TEST(Explanation, NamesIntervals) {
     }
 }
 
-// Each number is in the interval of the text that the library chooses, and in no other.
+// Each number is only in the interval of the text that the library chooses.
 TEST(Explanation, HasTheIntervalsOfTheLibrary) {
     std::mt19937 random(3);
     for (int round = 0; round < 500; ++round) {
@@ -187,13 +187,13 @@ TEST(NumberInterval, IntersectsAndHasASample) {
     EXPECT_LT((NumberInterval{std::nullopt, -1e300}.sample()), -1e300);
 }
 
-TEST(Explanation, SaysWhatQuotingDid) {
+TEST(Explanation, ShowsEffectsOfQuoting) {
     const ExplanationCase cases[] = {
         {__LINE__, "it's", "text \"it's\"\n"},
         {__LINE__, "it''s '{'",
          "text \"it's {\"\n"
          "  written `it''s '{'`; quoting takes away ' (1:4), ' (1:7), ' (1:9)\n"},
-        {__LINE__, "''''", // a quoted apostrophe, and one that stands for itself
+        {__LINE__, "''''", // a quoted apostrophe, and a plain one
          "text \"''\"\n  written `''''`; quoting takes away ' (1:1), ' (1:3)\n"},
         {__LINE__, "{0,choice,0#it''s free|1#'a'b}",
          "argument 0 decides:\n"
@@ -258,7 +258,7 @@ TEST(Explanation, IsLinearForDeepNesting) {
     const std::string half = explained(nested(5000));
     const std::string whole = explained(nested(10000));
     EXPECT_LT(whole.size(), half.size() * 21 / 10);
-    EXPECT_NE(whole.find("[level 10000] argument 0 as its kind asks"), std::string::npos);
+    EXPECT_NE(whole.find("[level 10000] argument 0 by its kind"), std::string::npos);
     EXPECT_LT(whole.size() / static_cast<std::size_t>(std::count(whole.begin(), whole.end(), '\n')),
               100);
 }

@@ -1,5 +1,5 @@
-// One construct of the file format in each row: what it means, and whether another compiler of the
-// format takes it for the same.
+// Each row has one construct of the file format: its meaning, and whether another compiler of the
+// format reads it in the same way.
 
 #include "tool/Program.h"
 #include "tool/Reading.h"
@@ -22,7 +22,7 @@ using platform::Bytes;
 enum class Other {
     agrees,
     refuses,
-    differs, ///< takes it for something else, where programs that read the format disagree
+    differs, ///< reads it differently, as programs that read the format do
 };
 
 /// Appends the messages of a table as `id text`, each in quotes with \r, \n and other units beyond
@@ -73,7 +73,7 @@ std::string withCrLf(const std::string& text) {
 
 class MessageTextTest : public FolderTest {
 protected:
-    /// Returns what a file means to us.
+    /// Returns the tables and constants that our program makes of a file.
     static std::string ours(const std::string& text, const std::string& encoding = "") {
         const Reading reading = readAll({text}, {}, encoding);
         if (hasErrors(reading.diagnostics)) {
@@ -88,7 +88,8 @@ protected:
         return out;
     }
 
-    /// Returns what a file means to `windmc`; empty if it refuses the file.
+    /// Returns the tables and constants that `windmc` makes of a file; empty if it refuses the
+    /// file.
     std::string theirs(const std::string& text) const {
         write("x.mc", withCrLf(text));
         for (const fs::directory_entry& entry : fs::directory_iterator(folder_)) {
@@ -120,7 +121,7 @@ protected:
 
 const std::string text = "\nLanguage=English\nx\n.\n";
 
-TEST_F(MessageTextTest, MeansWhatItMeansToOthers) {
+TEST_F(MessageTextTest, MeansTheSameToAnotherCompiler) {
     const struct {
         int line;
         std::string file;

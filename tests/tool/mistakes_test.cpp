@@ -1,5 +1,5 @@
-// What a build prints for the mistakes that authors usually make: each time one diagnostic, with its
-// source line and a caret.
+// The output of a build for common mistakes of authors: one diagnostic for each, with its source
+// line and a caret.
 
 #include "tool/Program.h"
 
@@ -15,7 +15,7 @@ struct Mistake {
     std::string app;  ///< the whole of App.mc
     std::string more; ///< the whole of More.mc
     bool stopsBuild;
-    std::string output; ///< what the build prints about it
+    std::string output; ///< of the build
 };
 
 std::string message(const std::string& pattern) {
@@ -41,21 +41,22 @@ const Mistake mistakes[] = {
      "    4 | {0 files\n"
      "      | ^\n"},
     {__LINE__, message("{0,Number} files"), fine, false,
-     "App.mc:4:4: warning: `Number` is no type: this shows what `{0}` shows [unknown-type]\n"
+     "App.mc:4:4: warning: `Number` is not a type: this shows what `{0}` shows [unknown-type]\n"
      "    4 | {0,Number} files\n"
      "      |    ^~~~~~\n"
      "App.mc:4:4: note: did you mean `number`?\n"},
     {__LINE__, message("{0, number} files"), fine, false,
-     "App.mc:4:4: warning: ` number` is no type: this shows what `{0}` shows [unknown-type]\n"
+     "App.mc:4:4: warning: ` number` is not a type: this shows what `{0}` shows [unknown-type]\n"
      "    4 | {0, number} files\n"
      "      |    ^~~~~~~\n"
      "App.mc:4:4: note: did you mean `number`?\n"},
     {__LINE__, message("On {0,date,EEEE}"), fine, false,
-     "App.mc:4:12: warning: `EEEE` is no date letter; the day's name is `dddd` [date-letter]\n"
+     "App.mc:4:12: warning: `EEEE` is not a date letter; the day's name is `dddd` [date-letter]\n"
      "    4 | On {0,date,EEEE}\n"
      "      |            ^~~~\n"},
     {__LINE__, message("At {0,time,short}"), fine, false,
-     "App.mc:4:12: warning: `short` is no style of `time` and is read as a pattern [time-style]\n"
+     "App.mc:4:12: warning: `short` is not a style of `time` and is read as a pattern "
+     "[time-style]\n"
      "    4 | At {0,time,short}\n"
      "      |            ^~~~~\n"
      "App.mc:4:12: note: leave the style out, or write a pattern such as `HH:mm`\n"},
@@ -80,7 +81,7 @@ const Mistake mistakes[] = {
      "      |               ^\n"
      "App.mc:4:15: note: write the text after the placeholder\n"},
     {__LINE__, message("Copied %1"), fine, false,
-     "App.mc:4:8: warning: `%1` is shown as it stands [foreign-insert]\n"
+     "App.mc:4:8: warning: `%1` is shown unchanged [foreign-insert]\n"
      "    4 | Copied %1\n"
      "      |        ^~\n"
      "App.mc:4:8: note: arguments are counted from 0: write `{0}`\n"},
@@ -99,12 +100,12 @@ const Mistake mistakes[] = {
      "    1 | MessageId=1\n"
      "      |           ^\n"},
     {__LINE__, utf16(message("{0,Number} files")), fine, false,
-     "App.mc:4:4: warning: `Number` is no type: this shows what `{0}` shows [unknown-type]\n"
+     "App.mc:4:4: warning: `Number` is not a type: this shows what `{0}` shows [unknown-type]\n"
      "    4 | {0,Number} files\n"
      "      |    ^~~~~~\n"
      "App.mc:4:4: note: did you mean `number`?\n"},
     {__LINE__, utf16(message("fine")) + "x", fine, true,
-     "App.mc:6:1: error: the byte 0x78 is no UTF-16LE here [file-encoding]\n"
+     "App.mc:6:1: error: the byte 0x78 is not valid UTF-16LE here [file-encoding]\n"
      "    6 | \n"
      "      | ^\n"
      "App.mc:6:1: note: name the encoding of the file, as in --encoding CP1252\n"},

@@ -1,4 +1,5 @@
-// Spellings of texts in patterns: what the library shows of them, and whether there are others.
+// Spellings of texts in patterns: the library must show the text, and if none is found, none may
+// exist.
 
 #include "tool/Program.h"
 #include "tool/pattern/Quoter.h"
@@ -28,7 +29,7 @@ std::string render(const std::string& pattern) {
     return shown;
 }
 
-/// What is around a text in a pattern and in what is shown.
+/// The text around a spelling, in the pattern and in the shown text.
 struct Surroundings {
     const char* before;
     const char* after;
@@ -47,7 +48,7 @@ std::vector<Surroundings> surroundingsOf(TextPlace place) {
     return {{"x {0,date,", "} y", "x ", " y"}, {"{0,date,d ", " d}", "1 ", " 1"}};
 }
 
-/// Tells whether the library shows a text for a spelling, between other texts and choices.
+/// Returns whether the library shows a text for a spelling, between other texts and choices.
 bool isRight(const std::string& spelling, const std::string& text, TextPlace place,
              std::size_t depth) {
     for (const Surroundings& around : surroundingsOf(place)) {
@@ -75,8 +76,8 @@ bool bracesMatch(std::string_view text) {
     return open == 0;
 }
 
-/// Tells whether some apostrophes, of that number at most, show a text if they are put between its
-/// other characters.
+/// Returns whether at most `most` apostrophes, put between the other characters of a text, show the
+/// text.
 bool hasSpelling(const std::string& text, TextPlace place, std::size_t depth, std::size_t most) {
     std::string others = text;
     others.erase(std::remove(others.begin(), others.end(), '\''), others.end());
@@ -201,12 +202,13 @@ TEST_F(QuoteCommandTest, PrintsTheSpellingAlone) {
         {__LINE__, "\"it's fine\" --in choice --depth 2", 0, "it''''''''''s fine\n"},
         {__LINE__, "--in number -- -E", 0, "-'E'\n"},
         {__LINE__, "'{' --in choice", 1,
-         "msglib: no spelling was found that shows it there; pass it as an argument\n"},
+         "msglib: no spelling was found that shows this text there; pass it as an argument\n"},
         {__LINE__, "ä --in number", 1,
-         "msglib: no spelling was found that shows it there; write it before or after the "
+         "msglib: no spelling was found that shows this text there; write it before or after the "
          "placeholder\n"},
         {__LINE__, "\"it's\" --depth 8", 1,
-         "msglib: no spelling was found that shows it there; write ’ (U+2019) for an apostrophe: "
+         "msglib: no spelling was found that shows this text there; write ’ (U+2019) for an "
+         "apostrophe: "
          "it’s\n"},
         {__LINE__, "\"$(printf 'a\\n.\\nb')\"", 0,
          "a\n.\nb\nmsglib: note: in a message text file, a line with \".\" alone ends the text\n"},
@@ -225,7 +227,7 @@ TEST_F(QuoteCommandTest, PrintsTheSpellingAlone) {
     }
 }
 
-TEST_F(QuoteCommandTest, SpellsWhatTheDocumentationShows) {
+TEST_F(QuoteCommandTest, MatchesTheDocumentation) {
     std::ifstream page(ROOT "/docs/catalogues.md");
     std::size_t examples = 0;
     for (std::string line; std::getline(page, line);) {

@@ -26,7 +26,7 @@ void check(const std::vector<Row>& rows) {
     }
 }
 
-TEST(RefusedTextTest, NamesWhatStatementsLack) {
+TEST(RefusedTextTest, ReportsWrongStatements) {
     check({
         {__LINE__, "", "1:1-1 file-syntax: no message in the file\n"},
         {__LINE__, ";\n", "1:1-1 file-syntax: no message in the file\n"},
@@ -67,14 +67,14 @@ TEST(RefusedTextTest, NamesWhatStatementsLack) {
          "FacilityNames=(Nowhere=number))\n"},
         {__LINE__,
          "MessageId=1\nSeverity=Error Severity=Error\nSymbolicName=A SymbolicName=B" + text,
-         "2:16-24 file-syntax: the message has a severity already\n"
-         "3:16-28 file-syntax: the message has a symbolic name already\n"},
+         "2:16-24 file-syntax: the message already has a severity\n"
+         "3:16-28 file-syntax: the message already has a symbolic name\n"},
         {__LINE__, "Severity=Error\nMessageId=1" + text,
          "1:1-9 file-syntax: Severity belongs between MessageId and Language\n"},
         {__LINE__, "MessageId=1" + text + "MesageId=2 SymbolicName=A\nSeverity=Error" + text,
          "5:1-9 file-syntax: a keyword such as MessageId is expected here\n"},
         {__LINE__, "MessageId=1\nFacilityNames=(A=1)" + text,
-         "2:1-14 file-syntax: FacilityNames does not belong into the head of a message\n"},
+         "2:1-14 file-syntax: FacilityNames does not belong in the head of a message\n"},
         {__LINE__, "OutputBase=8\nMessageId=1" + text,
          "1:12-13 file-syntax: OutputBase is 10 or 16\n"},
         {__LINE__, "MessageId=1\nMessageId=2" + text + "MessageId=3",
@@ -85,7 +85,7 @@ TEST(RefusedTextTest, NamesWhatStatementsLack) {
     });
 }
 
-TEST(RefusedTextTest, NamesWhatListsLack) {
+TEST(RefusedTextTest, ReportsWrongLists) {
     const std::string message = "MessageId=1" + text;
     check({
         {__LINE__, "FacilityNames=A=1\n" + message,
@@ -112,7 +112,7 @@ TEST(RefusedTextTest, NamesWhatListsLack) {
     });
 }
 
-TEST(RefusedTextTest, NamesWhatTextsLack) {
+TEST(RefusedTextTest, ReportsWrongTexts) {
     const std::string german = "LanguageNames=(German=0x407:G)\n";
     const std::string head = "MessageId=1\nLanguage=English\n";
     check({
@@ -152,7 +152,7 @@ TEST(RefusedTextTest, NamesWhatTextsLack) {
     });
 }
 
-TEST(RefusedTextTest, AsksWhereReadersDisagree) {
+TEST(RefusedTextTest, ReportsAmbiguousHeads) {
     const std::string names = "FacilityNames=(A=1 B=2)\n";
     const std::string error = "MessageId=1 Severity=Error" + text;
     const std::string inA = "MessageId=1 Facility=A" + text;
@@ -182,23 +182,27 @@ TEST(RefusedTextTest, AsksWhereReadersDisagree) {
          "for others (leave out the 0, or write the number as hexadecimal)\n"},
         {__LINE__, "FacilityNames=(App=1 APP=1 app=2)\nMessageId=1" + text,
          "1:28-31 ambiguous-header: this name and APP differ in upper and lower case only: some "
-         "programs take them for the same name\n"},
+         "programs read them as the same name\n"},
     });
 }
 
-TEST(RefusedTextTest, PointsAtIllegibleBytes) {
+TEST(RefusedTextTest, PointsAtInvalidBytes) {
     const std::string note = " (name the encoding of the file, as in --encoding CP1252)\n";
     check({
-        {__LINE__, ";\n;é\xE9\n", "2:3-3 file-encoding: the byte 0xE9 is no UTF-8 here" + note},
-        {__LINE__, "\xED\xA0\x80", "1:1-1 file-encoding: the byte 0xED is no UTF-8 here" + note},
-        {__LINE__, ";\xC3", "1:2-2 file-encoding: the byte 0xC3 is no UTF-8 here" + note},
+        {__LINE__, ";\n;é\xE9\n",
+         "2:3-3 file-encoding: the byte 0xE9 is not valid UTF-8 here" + note},
+        {__LINE__, "\xED\xA0\x80",
+         "1:1-1 file-encoding: the byte 0xED is not valid UTF-8 here" + note},
+        {__LINE__, ";\xC3", "1:2-2 file-encoding: the byte 0xC3 is not valid UTF-8 here" + note},
         {__LINE__,
          {"\xFF\xFE;\0\n", 5},
-         "1:2-2 file-encoding: the byte 0x0A is no UTF-16LE here" + note},
+         "1:2-2 file-encoding: the byte 0x0A is not valid UTF-16LE here" + note},
         {__LINE__,
          {"\xFE\xFF\0;\xDC\0\0;", 8},
-         "1:2-2 file-encoding: the byte 0xDC is no UTF-16BE here" + note},
-        {__LINE__, {";\0;", 3}, "1:2-2 file-encoding: the byte 0x3B is no UTF-16LE here" + note},
+         "1:2-2 file-encoding: the byte 0xDC is not valid UTF-16BE here" + note},
+        {__LINE__,
+         {";\0;", 3},
+         "1:2-2 file-encoding: the byte 0x3B is not valid UTF-16LE here" + note},
         {__LINE__, {";a\n;\0b", 6}, "2:2-3 file-syntax: a NUL character in the text\n"},
         {__LINE__, ";\n;\r;\n", "2:2-3 file-syntax: a carriage return without a line feed\n"},
         {__LINE__, ";\x1A\n;\n",
@@ -208,7 +212,7 @@ TEST(RefusedTextTest, PointsAtIllegibleBytes) {
          "1:11-12 file-syntax: a keyword such as MessageId is expected here\n"},
     });
     EXPECT_EQ(diagnosticsOf(";\x81\xFF", "CP932"),
-              "1:2-2 file-encoding: the byte 0x81 is no CP932 here" + note);
+              "1:2-2 file-encoding: the byte 0x81 is not valid CP932 here" + note);
 }
 
 } // namespace

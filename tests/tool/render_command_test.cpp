@@ -1,4 +1,4 @@
-// The commands that show what messages become and how patterns are read, as people call them.
+// The commands `render` and `explain`, run as people run them.
 
 #include "tool/Program.h"
 
@@ -122,8 +122,8 @@ TEST_F(RenderCommand, ShowsPatterns) {
     }
 }
 
-// What takes the message's place in a program is on standard output, all else is not.
-TEST_F(RenderCommand, ShowsFailuresInTheWordsOfTheLibrary) {
+// Standard output has only the text that a program shows in place of the message.
+TEST_F(RenderCommand, ShowsFailuresAsTheLibraryReportsThem) {
     const CommandCase cases[] = {
         {__LINE__, "render App.mc MSG_COPIED text x", 1, "Argument is not a number.\n"},
         {__LINE__, "render App.mc MSG_COPIED 7", 1,
@@ -172,7 +172,7 @@ std::string indented(const std::string& text) {
     return result;
 }
 
-TEST_F(RenderCommand, PrintsWhatTheDocumentationShows) {
+TEST_F(RenderCommand, MatchesTheDocumentation) {
     const std::string page = contentOf(DOCS_FOLDER "/catalogues.md");
     for (const char* const command : {"render DesktopMessages.mc MSG_COPIED --language English",
                                       "render DesktopMessages.mc MSG_COPIED 7 Büro",

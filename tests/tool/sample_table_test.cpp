@@ -1,5 +1,5 @@
-// The texts that a message can become: for known patterns, for random ones against the library, and
-// for huge ones.
+// Tables of samples: for known patterns, for random ones in comparison with the library, and for
+// huge ones.
 
 #include "tool/preview/SampleTable.h"
 
@@ -98,7 +98,7 @@ TEST(SampleTable, TakesKindsAndNamesFromComments) {
     EXPECT_EQ(dump(tableOf("{0,choice,0#a|1#b}", parameters)), "0 : a | 1 : b | ");
 }
 
-/// Makes patterns of choices in one another, in which each text has a mark of its own.
+/// Generates patterns of nested choices, in which each text has its own mark.
 class PatternMaker {
 public:
     explicit PatternMaker(unsigned seed) : random_(seed) {}
@@ -140,7 +140,7 @@ std::set<std::string> marksIn(const std::string& text) {
     return marks;
 }
 
-// The library is asked with all combinations of limits and their neighbours.
+// The library renders the pattern with all combinations of limits and their neighbours.
 TEST(SampleTable, ReachesEveryTextThatTheLibraryReaches) {
     std::vector<double> values;
     for (double limit = -3; limit <= 7; limit += 0.5) {

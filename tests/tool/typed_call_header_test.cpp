@@ -1,5 +1,5 @@
-// Which parameters the typed call of a message has, what comments change about them, and what of
-// texts and comments gets into the generated header.
+// The parameters of typed calls, the effect of comments on them, and texts and comments in the
+// generated header.
 
 #include "tool/Reading.h"
 
@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* head = "MessageId=1 SymbolicName=M\nLanguage=English\n";
 
-/// What comes of the typed calls of a file.
+/// The results for the typed calls of a file.
 struct Calls {
     std::string signatures; ///< `symbol(kind name, ...)` or `symbol: refusal`, each with a line end
     std::string diagnostics; ///< as `dump` writes them
@@ -137,7 +137,8 @@ TEST(TypedCallHeaderTest, TakesNamesAndKindsFromComments) {
          "1:15-21 argument-annotation: the text does not use this argument as number (write "
          "time)\n"},
         {__LINE__, "; // @arg 0 a How many\n", "{0}", "M(any a = many)",
-         "1:15-18 argument-annotation: `How` is no kind of argument (the kinds are text, number, "
+         "1:15-18 argument-annotation: `How` is not a kind of argument (the kinds are text, "
+         "number, "
          "time and any)\n"},
         {__LINE__, "; // @arg 2 a\n", "{1}", "M(any, any)",
          "1:11-12 argument-annotation: the message has no argument 2 (its text in English (United "
@@ -146,7 +147,7 @@ TEST(TypedCallHeaderTest, TakesNamesAndKindsFromComments) {
          "1:11-31 argument-annotation: the message has no argument 18446744073709551616 (its text "
          "in English (United States) uses none)\n"},
         {__LINE__, "; // @arg 0 a\n; // @arg 0 b\n", "{0}", "M(any a)",
-         "2:11-12 argument-annotation: argument 0 has such a comment already\n"},
+         "2:11-12 argument-annotation: argument 0 already has such a comment\n"},
         {__LINE__, "; // @arg 0 a\n; // @arg 1 a\n", "{1}", "M(any a, any)",
          "2:13-14 argument-annotation: another argument of the message has this name\n"},
         {__LINE__, "; // @arg 0 class\n; // @arg 1 Argument0\n", "{1}", "M(any, any)",
@@ -166,7 +167,7 @@ TEST(TypedCallHeaderTest, TakesNamesAndKindsFromComments) {
               "5:1-14 argument-annotation: no message follows\n");
 }
 
-TEST(TypedCallHeaderTest, ShowsTextsInCommentsThatNothingEnds) {
+TEST(TypedCallHeaderTest, KeepsTextsInsideComments) {
     const Calls calls = read("; // @arg 0 a any x\\\n" + std::string(head) +
                              "{0}\\ \t\n\n\x01\t*/\u0085\u2028\u202E\n.\n");
     EXPECT_NE(calls.header.find("///     {0}\\ <line end>\n"

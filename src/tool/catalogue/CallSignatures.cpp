@@ -1,6 +1,3 @@
-// The text of a message decides which arguments its function has; comments may only add to that.
-// So a function fits its message whatever the comments say.
-
 #include "tool/catalogue/CallSignatures.h"
 
 #include "tool/catalogue/CommentDirectives.h"
@@ -15,14 +12,20 @@
 #include <optional>
 #include <set>
 
+// The messages of a catalogue go in, the signatures of their typed calls come out. The text of a
+// message decides which arguments its function has: `PatternTree` reads the text, and each
+// placeholder adds what it asks of its argument. Then the comments of the message add names and
+// descriptions, and narrow kinds. A comment that contradicts the text is reported and has no
+// effect, so a function fits its message whatever the comments contain.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-// Compilers take functions of more parameters, but nobody calls them.
+// Compilers accept functions with more parameters, but such a call would be unreadable.
 constexpr int mostArguments = 100;
 
-/// What all heads of one identifier have in common.
+/// What is known about one identifier from all of its heads.
 struct MessageFacts {
     std::optional<Place> pattern; ///< in the language that is looked up
     std::vector<Place> comments;
@@ -57,15 +60,14 @@ std::optional<ValueKind> kindOf(std::string_view word) {
     return found == kinds.end() ? std::nullopt : std::optional(found->second);
 }
 
-/// Tells whether a comment may say that a parameter is of the kind `said`, if the text asks for
-/// `used`.
+/// Returns whether a comment may declare a parameter as `said` if the text uses it as `used`.
 bool fits(ValueKind said, ValueKind used) {
     return used == ValueKind::any || used == said ||
            (used == ValueKind::numberAndTime &&
             (said == ValueKind::number || said == ValueKind::time));
 }
 
-/// What a comment has to say if the text asks for `used`, which is not `any`.
+/// Returns what to write in a comment if the text uses the argument as `used`, which is not `any`.
 const char* adviceFor(ValueKind used) {
     switch (used) {
     case ValueKind::number: return "write number";
@@ -74,8 +76,8 @@ const char* adviceFor(ValueKind used) {
     }
 }
 
-/// Tells whether a word can name a parameter. Names like `argument0` are those of parameters that
-/// have no other.
+/// Returns whether a word can name a parameter. Names like `argument0` are reserved for parameters
+/// without a name.
 bool isParameterName(std::string_view word) {
     constexpr std::string_view generated = "argument";
     const bool isGenerated =
@@ -86,7 +88,7 @@ bool isParameterName(std::string_view word) {
            !isReservedForCompilers(word) && !isGenerated;
 }
 
-/// Adds what the comments of a message say to its parameters.
+/// Adds names, kinds and descriptions from the comments of a message to its parameters.
 class AnnotationReader {
 public:
     AnnotationReader(std::vector<Parameter>& parameters, Diagnostics& diagnostics)
@@ -109,8 +111,8 @@ private:
     void readName(const Place& name, const Place& index, Parameter& parameter);
     void readKind(const Place& kind, Parameter& parameter);
 
-    void report(const Place& place, std::string words, std::vector<Note> notes = {}) {
-        diagnostics_.report(rules::argumentAnnotation, place, std::move(words), std::move(notes));
+    void report(const Place& place, std::string message, std::vector<Note> notes = {}) {
+        diagnostics_.report(rules::argumentAnnotation, place, std::move(message), std::move(notes));
     }
 
     std::vector<Parameter>& parameters_;
@@ -122,7 +124,7 @@ private:
 /// Returns the parameter that an annotation is about; null if that has been reported.
 Parameter* AnnotationReader::find(const Place& index) {
     const std::string_view digits = index.text();
-    std::size_t value = std::string_view::npos; // it stays so if the number is out of range
+    std::size_t value = std::string_view::npos; // unchanged if the number is out of range
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error == std::errc::invalid_argument || end != digits.data() + digits.size()) {
         report(index, "the index of an argument is missing",
@@ -134,7 +136,7 @@ Parameter* AnnotationReader::find(const Place& index) {
             {{"its text in English (United States) uses " +
               (parameters_.empty() ? "none" : "0 to " + std::to_string(parameters_.size() - 1))}});
     } else if (!described_.insert(value).second) {
-        report(index, "argument " + std::string(digits) + " has such a comment already");
+        report(index, "argument " + std::string(digits) + " already has such a comment");
     } else {
         return &parameters_[value];
     }
@@ -159,7 +161,7 @@ void AnnotationReader::readKind(const Place& kind, Parameter& parameter) {
         return;
     }
     if (!said) {
-        report(kind, code(kind.text()) + " is no kind of argument",
+        report(kind, code(kind.text()) + " is not a kind of argument",
                {{"the kinds are text, number, time and any"}});
     } else if (!fits(*said, parameter.kind)) {
         report(kind, "the text does not use this argument as " + std::string(kind.text()),
@@ -169,10 +171,10 @@ void AnnotationReader::readKind(const Place& kind, Parameter& parameter) {
     }
 }
 
-/// Gives a signature the parameters that its text asks for, or the reason why it has none.
+/// Adds to a signature the parameters that its text uses, or the reason why it cannot be called.
 void readParameters(const PatternTree& tree, CallSignature& signature) {
     for (const PatternText& text : tree.texts()) {
-        if (!text.errors.empty()) { // which are reported by the check of patterns
+        if (!text.errors.empty()) { // the pattern checks report them
             signature.refusal = "has a text that does not compile";
             return;
         }
@@ -183,7 +185,7 @@ void readParameters(const PatternTree& tree, CallSignature& signature) {
                                     " arguments at most";
                 return;
             }
-            if (placeholder.index >= 0) { // there is never an argument with a negative index
+            if (placeholder.index >= 0) { // no argument has a negative index
                 const auto index = static_cast<std::size_t>(placeholder.index);
                 auto& parameters = signature.parameters;
                 parameters.resize(std::max(parameters.size(), index + 1));
@@ -211,7 +213,8 @@ CallSignature readSignature(const MessageFacts& facts, Diagnostics& diagnostics)
     return signature;
 }
 
-/// Collects what the heads of each identifier say: a message may have one for each language.
+/// Collects the text and the comments of each identifier from all of its heads: a message may have
+/// one head for each language.
 std::map<std::uint32_t, MessageFacts> collectFacts(const Catalogue& catalogue) {
     std::map<std::uint32_t, MessageFacts> facts;
     for (const Message& message : catalogue.messages) {

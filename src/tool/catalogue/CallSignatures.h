@@ -11,7 +11,7 @@
 
 namespace zem::msglib::tool {
 
-/// What a value has to be so that a message can use it.
+/// The kind of value that a message needs as an argument.
 enum class ValueKind { any, text, number, time, numberAndTime };
 
 /// Returns the name of a kind: any, text, number, time, or number and time.
@@ -21,10 +21,11 @@ const char* nameOf(ValueKind kind) noexcept;
 struct Parameter {
     ValueKind kind = ValueKind::any;
     std::string_view name;        ///< empty if no comment names it
-    std::string_view description; ///< the same, in one line
+    std::string_view description; ///< in one line; empty if no comment has one
 };
 
-/// The function that a message with a symbolic name becomes. Its texts lie in the catalogue.
+/// The function that is generated for a message with a symbolic name. Its views refer to the
+/// catalogue.
 struct CallSignature {
     std::string_view symbol;
     std::string_view text;             ///< in the language that is looked up; empty if it has none
@@ -32,23 +33,24 @@ struct CallSignature {
     std::string refusal;               ///< why the function cannot be called; empty if it can
 };
 
-/// Finds the functions of all messages in the order of the file: how many arguments there are, and
-/// of which kinds, follows from the text in English (United States).
+/// Returns the functions of all messages with symbolic names, in the order of the file. The number
+/// and the kinds of the arguments follow from the text in English (United States).
 ///
 /// Names, descriptions and narrower kinds come from comments before a message or in its head:
 ///
 ///     ; // @arg INDEX NAME [KIND [DESCRIPTION]]
 ///
 /// The "//" may be left out; KIND is `text`, `number`, `time` or `any`. A comment that is wrong or
-/// does not fit the text is reported, and counts only as far as it fits.
+/// does not fit the text is reported. Only its correct parts are used.
 std::vector<CallSignature> readSignatures(const Catalogue& catalogue, Diagnostics& diagnostics);
 
-/// Finds the same for all messages by their identifiers, also for those without a symbolic name.
-/// The names are left out.
+/// Returns the functions of all messages by identifier, also of those without a symbolic name.
+/// `symbol` is left empty.
 std::map<std::uint32_t, CallSignature> readSignaturesById(const Catalogue& catalogue,
                                                           Diagnostics& diagnostics);
 
-/// Finds what a text in English (United States) asks for by itself, without comments and name.
+/// Returns the signature that follows from a text in English (United States) alone, without
+/// comments and name.
 CallSignature readSignature(const Place& pattern);
 
 } // namespace zem::msglib::tool

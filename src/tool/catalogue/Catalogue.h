@@ -13,7 +13,7 @@ namespace zem::msglib::tool {
 /// The language in which messages are looked up: English (United States).
 constexpr std::uint32_t lookedUpLanguage = 0x409;
 
-/// The facility bits of an identifier, and those of them that find the registered module.
+/// The facility bits of an identifier, and those of them that select the registered module.
 constexpr std::uint32_t facilityBits = 0xFFF;
 constexpr std::uint32_t moduleBits = 0x7FF;
 
@@ -22,20 +22,20 @@ struct MessageText {
     std::uint32_t language; ///< 16 bits
     Place languageName;     ///< the value of `Language`
 
-    /// The text as it is rendered, with an LF after each line; the last line has none where the
-    /// file asks for that. An offset into `pattern.text()` plus `pattern.offset` is the offset into
-    /// the file.
+    /// The text as it is rendered, with an LF after each line. The last line has none if a comment
+    /// in the file asks for that. An offset into `pattern.text()` plus `pattern.offset` is the
+    /// offset into the file.
     Place pattern;
 };
 
-/// A message: what its head says, and a text for each language.
+/// A message: the values of its head, and a text for each language.
 struct Message {
     Place head;   ///< the keyword `MessageId`
     Place number; ///< its value, or the keyword if there is none
     Place symbol; ///< the value of `SymbolicName`; without a file if there is none
 
     std::uint32_t id;  ///< severity, facility and number together
-    bool isIdentified; ///< whether `id` and all languages are known: not after an error in the head
+    bool isIdentified; ///< whether `id` and all languages are known
 
     std::vector<MessageText> texts; ///< at least one, in the order of the file
     std::vector<Place> comments;    ///< those before it and in its head, from the ";" on
@@ -46,8 +46,8 @@ struct Message {
 /// A message text file that has been read.
 ///
 /// Each value lies in its range and each text fits an entry of a message table, unless an error has
-/// been reported. What concerns several messages, such as an identifier that comes twice, is not
-/// checked yet.
+/// been reported. Faults between several messages, such as a duplicate identifier, are not checked
+/// yet.
 struct Catalogue {
     std::unique_ptr<const SourceFile> source;
     std::vector<Message> messages;
@@ -59,8 +59,8 @@ std::string hexadecimal(std::uint32_t id);
 /// Returns a language as people write it: 0x0409.
 std::string languageText(std::uint32_t language);
 
-/// Returns the name and identifier of a message for the words of a diagnostic:
-/// `MSG_COPIED (0x40120011)`, or the identifier alone.
+/// Returns the name and identifier of a message for a diagnostic: `MSG_COPIED (0x40120011)`, or the
+/// identifier alone.
 std::string describe(const Message& message);
 
 } // namespace zem::msglib::tool

@@ -1,7 +1,3 @@
-// Reads message text files. Outside of texts, a file is a sequence of statements `keyword = value`,
-// whose tokens may be spread over lines; a text is lines up to a ".". One error must not hide the
-// next, so after each the reader goes on at the next line that begins with a statement.
-
 #include "tool/catalogue/CatalogueReader.h"
 
 #include "tool/catalogue/HeadLexer.h"
@@ -12,6 +8,12 @@
 #include <algorithm>
 #include <optional>
 #include <utility>
+
+// A decoded message text file goes in, its messages come out. Outside of texts, a file is a
+// sequence of statements `keyword = value`, whose tokens may be on different lines. `HeadLexer`
+// splits them, `HeadValues` reads their values, and a head collects them until `Language` starts a
+// text. A text is all lines up to a ".", which `TextReader` reads. One error must not hide the
+// next. So after an error, the reader continues at the next line that begins with a statement.
 
 namespace zem::msglib::tool {
 
@@ -60,7 +62,7 @@ private:
     std::vector<Message> messages_;
     std::optional<MessageHead> head_; ///< of a message that has no text yet
     bool isRecovering_ = false;       ///< whether an error may have been in a `MessageId`
-    bool isInMessage_ = false;        ///< whether the last of `messages_` may get further texts
+    bool isInMessage_ = false;        ///< whether more texts may follow for the last of `messages_`
 };
 
 std::vector<Message> CatalogueReader::read() {
@@ -118,16 +120,16 @@ void CatalogueReader::readValue(const Token& keyword) {
     }
 }
 
-/// Tells whether the line at the lexer's position begins with a statement.
+/// Returns whether the line at the lexer's position begins with a statement.
 bool CatalogueReader::startsStatement() const {
     const std::string_view line = source_.lineAt(lexer_.position());
     const std::size_t first = line.find_first_not_of(" \t\f\v");
-    // A look at the next token must not go through lines of comments each time.
+    // Looking at the next token here would read the same lines of comments again and again.
     return first != std::string_view::npos && line[first] != ';' &&
            isKeyword(lexer_.peek().text()) && lexer_.peekSecond().is('=');
 }
 
-/// Goes on after an error.
+/// Continues after an error.
 void CatalogueReader::skipToStatement() {
     if (head_) {
         head_->isBroken = true;
@@ -159,7 +161,7 @@ void CatalogueReader::readMessageId(const Token& keyword) {
 void CatalogueReader::readNamedValue(const Token& keyword, std::optional<NamedValue>& value,
                                      const HeadValues::Kind& kind) {
     if (value) {
-        abandon(keyword.place, "the message has a " + std::string(kind.what) + " already");
+        abandon(keyword.place, "the message already has a " + std::string(kind.what));
     }
     value = values_.readName(keyword, kind);
     head_->isBroken = head_->isBroken || !value;
@@ -168,7 +170,7 @@ void CatalogueReader::readNamedValue(const Token& keyword, std::optional<NamedVa
 void CatalogueReader::readSymbolicName(const Token& keyword) {
     MessageHead& head = openHead(keyword);
     if (head.symbol) {
-        abandon(keyword.place, "the message has a symbolic name already");
+        abandon(keyword.place, "the message already has a symbolic name");
     }
     const Token name = values_.readWord(keyword, "a name for the constant");
     if (!isIdentifier(name.text())) {
@@ -210,22 +212,22 @@ void CatalogueReader::readLanguage(const Token& keyword) {
 void CatalogueReader::readNames(const Token& keyword, HeadValues::Kind& kind) {
     if (head_) {
         abandon(keyword.place,
-                std::string(keyword.text()) + " does not belong into the head of a message");
+                std::string(keyword.text()) + " does not belong in the head of a message");
     }
     values_.readList(keyword, kind);
 }
 
-/// The type may be left out, and the constants have none of it.
+/// The type may be left out. The generated constants do not use it.
 void CatalogueReader::readMessageIdTypedef(const Token& keyword) {
     if (head_) {
-        abandon(keyword.place, "MessageIdTypedef does not belong into the head of a message");
+        abandon(keyword.place, "MessageIdTypedef does not belong in the head of a message");
     }
     if (lexer_.peek().kind == Token::Kind::word && !lexer_.peekSecond().is('=')) {
         lexer_.take();
     }
 }
 
-/// The base of the constants in the header means nothing to a compiler.
+/// The number base of the constants in the header makes no difference to a compiler.
 void CatalogueReader::readOutputBase(const Token& keyword) {
     const Place place = lexer_.peek().place;
     const std::uint32_t base = values_.readNumber(keyword);
@@ -234,7 +236,7 @@ void CatalogueReader::readOutputBase(const Token& keyword) {
     }
 }
 
-/// Ends the message before, and begins a head.
+/// Ends the previous message, and begins a head.
 void CatalogueReader::beginHead(const Token& keyword) {
     refuseMissingText();
     endMessage(keyword.place.offset);
@@ -244,7 +246,7 @@ void CatalogueReader::beginHead(const Token& keyword) {
     head_->isBroken = std::exchange(isRecovering_, false);
 }
 
-/// Makes a message of the head, if this is the message's first text.
+/// Turns the head into a message if this is the message's first text.
 void CatalogueReader::beginMessage() {
     const std::vector<Place> comments = lexer_.takeComments();
     if (head_) {
@@ -270,7 +272,7 @@ void CatalogueReader::endMessage(std::size_t end) {
 }
 
 /// Returns the head that a statement belongs to. After an error that may have been in its
-/// MessageId, the statement begins one.
+/// MessageId, the statement begins a head itself.
 MessageHead& CatalogueReader::openHead(const Token& keyword) {
     if (!head_ && isRecovering_) {
         beginHead(keyword);

@@ -9,15 +9,15 @@
 
 namespace zem::msglib::tool {
 
-/// Reads the messages of a file, and reports all that the format does not allow. It takes time in
-/// proportion to the file's size.
+/// Reads the messages of a file, and reports everything that the format does not allow, in time
+/// linear in the size of the file.
 ///
-/// @return what could be read, which is nothing of a file that is not whole
+/// @return what could be read; nothing if `ReadSource::isWhole` is false
 Catalogue readCatalogue(ReadSource source, Diagnostics& diagnostics);
 
-/// Reads several files, in their order.
+/// Reads several files, in the given order.
 ///
-/// @param encoding  of files without a mark that are not UTF-16; empty for UTF-8
+/// @param encoding  of files without a byte order mark that are not UTF-16; empty for UTF-8
 /// @throws CannotRun if a file cannot be read or there is no such encoding
 std::vector<Catalogue> readCatalogues(const std::vector<std::string>& paths,
                                       const std::string& encoding, Diagnostics& diagnostics);

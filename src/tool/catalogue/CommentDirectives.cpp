@@ -42,7 +42,7 @@ CommentDirective readDirective(Place comment) {
     for (Place word = takeWord(rest); word.length > 0; word = takeWord(rest)) {
         directive.arguments.push_back(word);
     }
-    if (directive.verb.length == 0) { // nothing but the name: a directive all the same
+    if (directive.verb.length == 0) { // a directive without a verb is a directive too
         directive.verb = start;
     }
     return directive;

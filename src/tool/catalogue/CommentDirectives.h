@@ -6,14 +6,14 @@
 
 namespace zem::msglib::tool {
 
-/// A comment that asks the tool for something:
+/// A comment with an instruction for the tool:
 ///
 ///     ; // msglib: allow RULE...        silences rules in the message that follows
 ///     ; // msglib: no-line-end          leaves out the line end after its texts
 ///
 /// The "//" may be left out.
 struct CommentDirective {
-    Place verb;                   ///< `allow` or `no-line-end`, or what stands there instead
+    Place verb;                   ///< `allow` or `no-line-end`, or the word in its place
     std::vector<Place> arguments; ///< the words after it
 };
 
@@ -22,13 +22,14 @@ struct CommentDirective {
 /// @param comment  from its ";" to the end of its line
 CommentDirective readDirective(Place comment);
 
-/// Tells whether a comment begins with `@arg`, as those about arguments do.
+/// Returns whether a comment describes an argument: whether it begins with `@arg`.
 bool isAnnotation(Place comment);
 
-/// Returns what a comment says: all but its ";", and a "//" after that.
+/// Returns a comment without its ";" and a "//" after it.
 Place contentOf(Place comment);
 
-/// Takes blanks and commas, and then the word up to the next ones; empty at the end.
+/// Removes blanks and commas from the start, and then the word up to the next ones. Returns the
+/// word; empty at the end.
 Place takeWord(Place& rest);
 
 } // namespace zem::msglib::tool

@@ -84,7 +84,7 @@ std::size_t HeadLexer::lineEnd(std::size_t position) const noexcept {
     return std::min(file_.text().find('\n', position), file_.text().size());
 }
 
-/// Keeps the comments of what lies between two tokens.
+/// Keeps the comments between two tokens.
 void HeadLexer::collectComments(std::size_t begin, std::size_t end) {
     const std::string_view text = file_.text().substr(0, end);
     for (std::size_t start = text.find(';', begin); start < end; start = text.find(';', start)) {

@@ -8,7 +8,7 @@
 
 namespace zem::msglib::tool {
 
-/// A token of what a message text file has outside of texts.
+/// A token of a message text file, outside of the texts of messages.
 ///
 ///     word     characters other than blanks, line ends, control characters and those below
 ///     symbol   one of = : ( ) + ,
@@ -22,20 +22,20 @@ struct Token {
     Kind kind;
     Place place;
 
-    /// Tells whether this is the symbol `character`.
+    /// Returns whether this is the symbol `character`.
     bool is(char character) const noexcept {
         return kind == Kind::symbol && place.file->text()[place.offset] == character;
     }
     std::string_view text() const noexcept { return place.text(); }
 };
 
-/// Reads tokens, and lines where the caller asks for them.
+/// Reads tokens, and whole lines on request.
 class HeadLexer {
 public:
     /// @param file  must outlive the reader
     explicit HeadLexer(const SourceFile& file) noexcept : file_(file) {}
 
-    /// Returns the next token, which is not taken.
+    /// Returns the next token without taking it.
     Token peek() const noexcept { return tokenAfter(position_); }
 
     /// Returns the token after the next one.
@@ -44,20 +44,20 @@ public:
     /// Takes the next token, and with it the comments before it.
     Token take();
 
-    /// Returns what lies between the last token that has been taken and the end of its line, but
-    /// for blanks and a comment, and takes the whole line. Empty is what it should be.
+    /// Takes the rest of the line after the last token that was taken. Returns what is on it
+    /// besides blanks and a comment; empty in a correct file.
     Place takeRestOfLine();
 
     /// Takes the next line as it is, without its line end.
     Place takeLine() noexcept;
 
-    /// Goes back to `place`, which has been the start of a line.
+    /// Goes back to `place`, which must be the start of a line.
     void goTo(std::size_t offset) noexcept { position_ = offset; }
 
     bool isAtEnd() const noexcept { return position_ == file_.text().size(); }
     std::size_t position() const noexcept { return position_; }
 
-    /// Returns the comments that have been passed since the last call.
+    /// Returns the comments that were read since the last call.
     std::vector<Place> takeComments() noexcept;
 
 private:

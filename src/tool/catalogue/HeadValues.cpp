@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+// Tokens go in, values come out: numbers, words, and numbers that are declared by name. A list of
+// names is read entry by entry into the declared names of its kind. Every error is reported and
+// ends the statement with `Abandoned`.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -34,7 +38,7 @@ std::optional<std::uint32_t> numberOf(std::string_view text) {
     return static_cast<std::uint32_t>(number);
 }
 
-/// Tells whether a number is another one where a leading 0 means octal.
+/// Returns whether a number has a different value if a leading 0 means octal.
 bool hasOctalReading(std::string_view text) noexcept {
     const std::size_t zeros = std::min(text.find_first_not_of('0'), text.size());
     const std::string_view digits = text.substr(zeros);
@@ -106,13 +110,13 @@ void HeadValues::declare(Kind& kind, const Token& name, const Token& number, std
     if (known != nullptr && known->name != name.text() && known->number != value) {
         diagnostics_.report(rules::ambiguousHeader, name.place,
                             "this name and " + known->name +
-                                " differ in upper and lower case only: some programs take them "
-                                "for the same name");
+                                " differ only in upper and lower case: some programs read them "
+                                "as the same name");
     }
     kind.names.declare(name.text(), value);
 }
 
-/// Reports a list without end. The reader is to go on with the line of `next`.
+/// Reports a list without an end. The reader continues with the line of `next`.
 void HeadValues::abandonList(const Token& open, const Token& next) {
     const std::size_t line = next.place.file->lineStart(next.place.offset);
     if (line > open.place.offset) {

@@ -13,16 +13,16 @@
 
 namespace zem::msglib::tool {
 
-/// Thrown where a statement has been reported and cannot be read on.
+/// Thrown to leave a statement after an error in it was reported.
 struct Abandoned {};
 
 /// Reports something that the file format does not allow, and throws `Abandoned`.
 [[noreturn]] void abandon(Diagnostics& diagnostics, Place place, std::string words);
 
-/// Tells whether a word is a keyword of the file format, in any case.
+/// Returns whether a word is a keyword of the file format, in any case.
 bool isKeyword(std::string_view word) noexcept;
 
-/// Reads the values of statements, and knows the names that have been declared.
+/// Reads the values of statements, and keeps the declared names.
 class HeadValues {
 public:
     /// The names of one kind, and how many bits their numbers have.
@@ -48,13 +48,13 @@ public:
     /// Reads a list "(name=number:other ...)" and declares its names.
     void readList(const Token& keyword, Kind& kind);
 
-    /// Reads a declared name; none if it is reported because there is no such name.
+    /// Reads a declared name. Returns nothing if no such name is declared, which is reported.
     std::optional<NamedValue> readName(const Token& keyword, const Kind& kind);
 
     /// Reads one word.
     ///
-    /// @param keyword  what the word is a value of
-    /// @param wanted   what the words of a diagnostic ask for
+    /// @param keyword  of the statement
+    /// @param wanted   what a diagnostic asks for if the word is missing
     Token readWord(const Token& keyword, const std::string& wanted);
 
     /// Reads a number of 32 bits, decimal or hexadecimal.

@@ -10,17 +10,17 @@
 
 namespace zem::msglib::tool {
 
-/// A value that a head gives by a name.
+/// A value that a head has by name.
 struct NamedValue {
     Place place; ///< the name
     std::uint32_t number;
 };
 
-/// The head of a message: what it says between `MessageId` and the first `Language`.
+/// The head of a message: the statements from `MessageId` up to the first `Language`.
 struct MessageHead {
     Place keyword;                      ///< `MessageId`
     Place number;                       ///< its value, or the keyword if there is none
-    bool isRelative = false;            ///< whether `value` counts from the message before
+    bool isRelative = false;            ///< whether `value` is a distance from the message before
     std::uint32_t value = 0;            ///< the number, or the distance
     std::optional<NamedValue> severity; ///< 2 bits
     std::optional<NamedValue> facility; ///< 12 bits
@@ -29,17 +29,17 @@ struct MessageHead {
     bool isBroken = false;              ///< whether an error has been reported
 };
 
-/// Makes the identifiers of one file's messages, in the order of the file.
+/// Computes the identifiers of the messages of one file, in the order of the file.
 ///
-/// What a head leaves out is taken differently by programs that read the format. Where that makes a
-/// difference, the head is reported, since any guess would be wrong for somebody.
+/// Programs that read the format complete the missing values of a head in different ways. A head
+/// whose identifier depends on that is reported, since any guess would be wrong for some files.
 class Identifiers {
 public:
     explicit Identifiers(Diagnostics& diagnostics) noexcept : diagnostics_(diagnostics) {}
 
     /// Returns the identifier of the next message.
     ///
-    /// @param head  its `isBroken` is set if the head is reported
+    /// @param head  `isBroken` is set if the head is reported
     std::uint32_t next(MessageHead& head);
 
 private:

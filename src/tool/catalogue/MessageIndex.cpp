@@ -9,13 +9,17 @@
 #include <map>
 #include <optional>
 
+// A catalogue goes in, an index of its messages by identifier comes out. The heads of one
+// identifier are joined into one message. A lookup compares symbolic names and whole identifiers,
+// then message numbers. If all fail, the error suggests a similar name.
+
 namespace zem::msglib::tool {
 
 namespace {
 
 constexpr std::uint32_t numberBits = 0xFFFF;
 
-/// Reads a number, decimal or hexadecimal; nothing if it is none of 32 bits.
+/// Reads a number, decimal or hexadecimal. Returns nothing if it is not a number of 32 bits.
 std::optional<std::uint32_t> readNumber(std::string_view text) {
     const bool isHexadecimal = text.size() > 2 && equalInAnyCase(text.substr(0, 2), "0x");
     text.remove_prefix(isHexadecimal ? 2 : 0);

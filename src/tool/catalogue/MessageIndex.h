@@ -11,17 +11,17 @@
 
 namespace zem::msglib::tool {
 
-/// A message with its texts in all languages, which the file may have in several heads.
+/// A message with its texts in all languages. The file may have them in several heads.
 struct IndexedMessage {
     const Message* head;                   ///< the first one
     std::vector<const MessageText*> texts; ///< in the order of the file
-    std::vector<Parameter> parameters;     ///< as its typed call has them; empty without a call
+    std::vector<Parameter> parameters;     ///< of its typed call; empty if it cannot be called
 
     /// Returns the text of a language; null if there is none.
     const MessageText* textIn(std::uint32_t language) const noexcept;
 };
 
-/// The messages of a catalogue, found as people name them. It borrows the catalogue.
+/// The messages of a catalogue, by symbolic name or number. The catalogue must outlive the index.
 class MessageIndex {
 public:
     explicit MessageIndex(const Catalogue& catalogue);
@@ -29,14 +29,14 @@ public:
     /// Returns all messages whose identifiers are known, in the order of the file.
     const std::vector<IndexedMessage>& messages() const noexcept { return messages_; }
 
-    /// Returns the message of a symbolic name or an identifier, decimal or hexadecimal. A number
-    /// that is no identifier may be the message number of a single one.
+    /// Returns the message with a symbolic name or an identifier, decimal or hexadecimal. A number
+    /// that is not an identifier is a message number; it must belong to one message only.
     ///
-    /// @throws CannotRun if there is no such message; the words name the one that is meant, if that
-    ///         is clear
+    /// @throws CannotRun if there is no such message; the error names a message with a similar
+    ///                   name, if any
     const IndexedMessage& find(const std::string& name) const;
 
-    /// Returns the number of a language, from its number or from its name in the file.
+    /// Returns the number of a language, which is given by its number or by its name in the file.
     ///
     /// @throws CannotRun if no text is in this language
     std::uint32_t language(const std::string& name) const;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+// Sorted tables of names, searched by bisection.
+
 namespace zem::msglib::tool {
 
 namespace {

@@ -4,13 +4,14 @@
 
 namespace zem::msglib::tool {
 
-/// Tells whether a name is a keyword of C++, up to C++20, or an alternative token.
+/// Returns whether a name is a keyword of C++, up to C++20, or an alternative token.
 bool isKeywordOfCpp(std::string_view name) noexcept;
 
-/// Tells whether a name is a macro of the C library, or one of the error numbers that systems add.
+/// Returns whether a name is a macro of the C library, or an error number that operating systems
+/// add to it.
 bool isMacroOfC(std::string_view name) noexcept;
 
-/// Tells whether a name has underscores that C++ leaves to compilers and libraries.
+/// Returns whether C++ reserves a name for compilers and libraries because of its underscores.
 bool isReservedForCompilers(std::string_view name) noexcept;
 
 } // namespace zem::msglib::tool

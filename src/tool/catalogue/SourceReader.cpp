@@ -12,7 +12,7 @@ namespace {
 
 constexpr char endOfFile = '\x1A';
 
-/// Drops what ends a file of older systems: a Ctrl-Z, and what may fill the last block after it.
+/// Removes the end mark of older systems: a Ctrl-Z, and the padding of the last block after it.
 void dropEndOfFile(std::string& text) {
     constexpr std::string_view padding("\x1A\0\r\n \t", 6);
     const std::size_t end = text.find(endOfFile);
@@ -21,7 +21,7 @@ void dropEndOfFile(std::string& text) {
     }
 }
 
-/// Makes LF of each CR LF.
+/// Replaces each CR LF by LF.
 void normaliseLineEnds(std::string& text) {
     std::size_t kept = std::min(text.find('\r'), text.size());
     for (std::size_t index = kept; index < text.size(); ++index) {
@@ -34,11 +34,11 @@ void normaliseLineEnds(std::string& text) {
     text.resize(kept);
 }
 
-/// Reports a character that no line of a file can have.
+/// Returns whether all characters are allowed in a file; reports the first that is not.
 bool isLegible(const SourceFile& file, Diagnostics& diagnostics) {
     static constexpr struct {
         char character;
-        const char* words;
+        const char* message;
     } refused[] = {
         {'\0', "a NUL character in the text"},
         {'\r', "a carriage return without a line feed"},
@@ -47,7 +47,7 @@ bool isLegible(const SourceFile& file, Diagnostics& diagnostics) {
     for (const auto& row : refused) {
         const std::size_t found = file.text().find(row.character);
         if (found != std::string_view::npos) {
-            diagnostics.report(rules::fileSyntax, {&file, found, 1}, row.words);
+            diagnostics.report(rules::fileSyntax, {&file, found, 1}, row.message);
             return false;
         }
     }

@@ -7,12 +7,16 @@
 #include <set>
 #include <string_view>
 
+// The lines after `Language` go in, the place of a text comes out. Each line is tested for the end
+// of the text, and for signs that the end is missing. When a message is complete, the directives in
+// its comments are applied to all of its texts, and their lengths are checked.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-// The length of a table's entry is a multiple of 4 in 16 bits, and counts the entry's own header
-// and a terminator.
+// The length of a table entry is a multiple of 4, has 16 bits, and includes the entry's header and
+// a terminator.
 constexpr std::size_t highestTextUnits = (65532 - 4) / 2 - 1;
 
 constexpr std::string_view finalLine = ".";
@@ -23,7 +27,7 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
 }
 
-/// Tells whether a line of a text looks like the start of the next message or text.
+/// Returns whether a line of a text looks like the start of the next message or text.
 bool startsNextText(std::string_view line, const DeclaredNames& languages) {
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) {
@@ -38,7 +42,7 @@ bool startsNextText(std::string_view line, const DeclaredNames& languages) {
     return equalInAnyCase(keyword, "Language") && languages.find(value) != nullptr;
 }
 
-/// Takes a line of a text, and tells whether the text ends before it.
+/// Takes a line of a text, and returns whether the text ends before it.
 bool takesEnd(HeadLexer& lexer, const Place& languageName, const DeclaredNames& languages,
               Diagnostics& diagnostics) {
     if (lexer.isAtEnd()) {
@@ -65,7 +69,7 @@ bool takesEnd(HeadLexer& lexer, const Place& languageName, const DeclaredNames& 
     return false;
 }
 
-/// Obeys one directive of a message, and returns whether it asks for no line end.
+/// Applies one directive of a message, and returns whether it asks for no line end.
 bool obey(const CommentDirective& directive, const Place& message, std::set<const Rule*>& allowed,
           Diagnostics& diagnostics) {
     if (directive.verb.text() == "no-line-end" && directive.arguments.empty()) {
@@ -83,7 +87,7 @@ bool obey(const CommentDirective& directive, const Place& message, std::set<cons
                                rule == nullptr ? "there is no such rule"
                                                : "this rule cannot be allowed");
         } else if (!allowed.insert(rule).second) {
-            diagnostics.report(rules::unusedAllow, name, "the message allows this rule already");
+            diagnostics.report(rules::unusedAllow, name, "the message already allows this rule");
         } else {
             diagnostics.allow(*rule, name, message.offset, message.end());
         }

@@ -7,20 +7,22 @@
 
 namespace zem::msglib::tool {
 
-/// Reads the lines of a text, up to its final "." or where that has been forgotten, which is
-/// reported. The lexer stands at the first line, and then after the text.
+/// Reads the lines of a text, up to its final ".". If that is missing, this is reported, and the
+/// text ends before the next message or text. The lexer is at the first line before the call, and
+/// after the text afterwards.
 ///
-/// @param languageName  for diagnostics
-/// @param languages     whose names in a line `Language=name` show that a final "." is missing
+/// @param languageName  where diagnostics about the whole text point
+/// @param languages     the declared names; a line `Language=name` with one of them shows that a
+///                      final "." is missing
 /// @return all lines with their line ends
 Place readText(HeadLexer& lexer, const Place& languageName, const DeclaredNames& languages,
                Diagnostics& diagnostics);
 
-/// Obeys the directives in the comments of a message that ends at `end`, and reports what they and
-/// its texts have wrong.
+/// Applies the directives in the comments of a message that ends at `end`, and reports errors in
+/// them and in the lengths of its texts.
 void finishMessage(Message& message, std::size_t end, Diagnostics& diagnostics);
 
-/// Reports the directives among comments that no message follows.
+/// Reports directives in comments that are not followed by a message.
 void reportTrailingDirectives(const std::vector<Place>& comments, Diagnostics& diagnostics);
 
 } // namespace zem::msglib::tool

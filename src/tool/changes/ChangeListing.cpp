@@ -7,6 +7,9 @@
 
 #include <algorithm>
 
+// A list of changes goes in, text or JSON comes out. In text, each change has one line, with its
+// columns aligned over all changes, and the old and new texts below. A summary comes last.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -40,7 +43,7 @@ void appendLines(std::string& out, const std::optional<std::string>& text, char 
     }
 }
 
-/// Returns what is said about a change after its message.
+/// Returns the text after the message of a change: whether callers break, and the details.
 std::string remarkOf(const Change& change, const Colours& colours) {
     const std::string words = change.words.empty() ? "" : ": " + change.words;
     if (!change.breaks) {

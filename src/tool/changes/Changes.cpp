@@ -6,12 +6,17 @@
 #include <unordered_map>
 #include <utility>
 
+// Two versions of a catalogue go in, a list of changes comes out. `Finder` pairs each old message
+// with the new message of the same symbolic name or identifier. The numbers,
+// arguments and texts of each pair are compared. Old messages without a partner are reported as
+// removed, new ones as added.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-/// Tells whether whatever a call passes for an argument of the kind `before` is right for the kind
-/// `after` too.
+/// Returns whether every value that a call may pass for the kind `before` also fits the kind
+/// `after`.
 bool stillFits(ValueKind before, ValueKind after) noexcept {
     const bool isNumberOfSeconds = before == ValueKind::numberAndTime;
     switch (after) {
@@ -27,9 +32,9 @@ std::string describe(std::size_t index, const Parameter& parameter) {
            (parameter.name.empty() ? "" : " (" + std::string(parameter.name) + ")");
 }
 
-/// What is different about the arguments of a message.
+/// The differences in the arguments of a message.
 struct ArgumentChange {
-    std::string words; ///< empty if nothing is
+    std::string words; ///< the differences; empty if there are none
     bool breaks = false;
 
     void add(const std::string& more, bool moreBreaks) {
@@ -87,7 +92,7 @@ std::vector<TextChange> compareTexts(const Texts& before, const Texts& after) {
     return different;
 }
 
-/// Finds messages of a version.
+/// Finds corresponding messages in a version.
 class Finder {
 public:
     explicit Finder(const CatalogueVersion& version) : version_(version) {
@@ -98,7 +103,7 @@ public:
         }
     }
 
-    /// Returns the message that is the same as one of the other version; null if there is none.
+    /// Returns the message that corresponds to one of the other version; null if there is none.
     const VersionedMessage* find(const VersionedMessage& other) const {
         const auto bySymbol = bySymbol_.find(other.symbol);
         if (bySymbol != bySymbol_.end()) {

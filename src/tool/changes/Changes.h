@@ -15,38 +15,39 @@ enum class ChangeKind : std::uint8_t { removed, renumbered, arguments, text, add
 /// Returns the name of a kind, such as `renumbered`.
 const char* nameOf(ChangeKind kind) noexcept;
 
-/// The text of a message in one language, as the versions have it.
+/// The text of a message in one language, in both versions.
 struct TextChange {
     std::uint32_t language;
     std::optional<std::string> before; ///< with LF at line ends; nothing if there was none
     std::optional<std::string> after;
 };
 
-/// What has changed about one message.
+/// A change of one message.
 struct Change {
     ChangeKind kind;
     bool breaks;                    ///< whether callers of the old version have to change
     const VersionedMessage* before; ///< null if it is added
     const VersionedMessage* after;  ///< null if it is removed
-    std::string words;              ///< about a new number or arguments; else empty
-    std::vector<TextChange> texts;  ///< those of another kind than that have none
+    std::string words;              ///< details of a new number or of arguments; else empty
+    std::vector<TextChange> texts;  ///< none if another kind of change
 
     const VersionedMessage& message() const noexcept {
         return before != nullptr ? *before : *after;
     }
 };
 
-/// Compares two versions of a catalogue, in the order of the old identifiers, with what is added at
-/// the end.
+/// Compares two versions of a catalogue. The changes are in the order of the old identifiers, with
+/// added messages at the end.
 ///
-/// A message is the same one where its symbolic name is, and where one of the versions does not
-/// know the name, where its identifier is. The versions must outlive the result.
+/// Two messages correspond if they have the same symbolic name. If one of the versions does not
+/// have the name, they correspond if they have the same identifier. The versions must outlive the
+/// result.
 ///
-/// Callers break if a message is removed or renumbered, and if a call of the old version does not
-/// fit the arguments of the new one.
+/// A change breaks callers if a message is removed or renumbered, or if a call that fits the old
+/// arguments does not fit the new ones.
 std::vector<Change> changesBetween(const CatalogueVersion& before, const CatalogueVersion& after);
 
-/// Tells whether one of the changes breaks callers.
+/// Returns whether one of the changes breaks callers.
 bool breakCallers(const std::vector<Change>& changes) noexcept;
 
 } // namespace zem::msglib::tool

@@ -8,11 +8,16 @@
 #include <string_view>
 #include <unordered_map>
 
+// All catalogues of a module go in, diagnostics come out. One pass over all messages keeps the
+// first message with each symbol, identifier and facility. Each later message is compared with
+// these.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-/// Sees all messages in the order of their files, and remembers the first of each kind.
+/// Visits all messages in the order of their files, and keeps the first one with each name,
+/// identifier and facility.
 class IdentifierRules {
 public:
     explicit IdentifierRules(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}
@@ -35,18 +40,18 @@ private:
             message.symbol.file != nullptr ? message.symbol.text() : std::string_view();
         if (isKeywordOfCpp(symbol)) {
             diagnostics_.report(rules::reservedSymbol, message.symbol,
-                                "this is a keyword of C++, no name of a constant");
+                                "this is a keyword of C++, not a name for a constant");
         } else if (isMacroOfC(symbol)) {
             diagnostics_.report(rules::reservedSymbol, Severity::warning, message.symbol,
                                 "this is a macro of the C library");
         } else if (isReservedForCompilers(symbol)) {
             diagnostics_.report(rules::reservedSymbol, Severity::warning, message.symbol,
-                                "names with such underscores are the compiler's");
+                                "names with such underscores are reserved for the compiler");
         }
     }
 
-    /// In one file, a symbol may stand for the same message again, for another language. Two
-    /// headers that define it cannot be included together.
+    /// In one file, a symbol may come again with the same message, for another language. In two
+    /// files it may not, since two headers that define it cannot be included together.
     void checkSymbol(const Message& message) {
         if (message.symbol.file == nullptr) {
             return;
@@ -58,8 +63,9 @@ private:
         }
         const std::string words = first.id == message.id
                                       ? "another catalogue has this symbolic name"
-                                      : "this symbolic name stands for " + hexadecimal(first.id) +
-                                            " already, and here for " + hexadecimal(message.id);
+                                      : "this symbolic name already stands for " +
+                                            hexadecimal(first.id) + ", and here for " +
+                                            hexadecimal(message.id);
         diagnostics_.report(rules::duplicateSymbol, message.symbol, words,
                             {{"the first one is here", first.symbol}});
     }
@@ -85,13 +91,13 @@ private:
         const std::uint32_t facility = message.facility();
         const auto [known, isNew] = facilities_.emplace(facility & moduleBits, &message);
         const Message& first = *known->second;
-        // Each pair is reported once, where the second one comes up.
+        // Each pair is reported once, at the second facility.
         if (isNew || first.facility() == facility || !clashes_.insert(facility).second) {
             return;
         }
         diagnostics_.report(rules::facilityClash, message.head,
                             "the facilities of " + describe(message) + " and " + describe(first) +
-                                " stand for one module, since they differ in bit 27 only",
+                                " select the same module, since they differ only in bit 27",
                             {{"the other message is here", first.head}});
     }
 
@@ -118,7 +124,7 @@ private:
     Diagnostics& diagnostics_;
     std::unordered_map<std::string_view, const Message*> symbols_;
     std::unordered_map<std::uint64_t, Owner> texts_;     ///< by language and identifier
-    std::map<std::uint32_t, const Message*> facilities_; ///< by the bits that find a module
+    std::map<std::uint32_t, const Message*> facilities_; ///< by the bits that select a module
     std::set<std::uint32_t> clashes_;                    ///< facilities that have been reported
 };
 

@@ -7,9 +7,9 @@
 
 namespace zem::msglib::tool {
 
-/// Checks what concerns the identifiers, symbols, facilities and languages of several messages.
+/// Checks the identifiers, symbols, facilities and languages of all messages against each other.
 ///
-/// @param catalogues  all of one module, which are checked together
+/// @param catalogues  all catalogues of one module
 void checkIdentifiers(const std::vector<Catalogue>& catalogues, Diagnostics& diagnostics);
 
 } // namespace zem::msglib::tool

@@ -1,5 +1,3 @@
-// Limits and texts of choices that compile, but surely aren't meant.
-
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/Spelling.h"
 #include "tool/text/Words.h"
@@ -10,11 +8,16 @@
 #include <string>
 #include <utility>
 
+// A pattern tree goes in, diagnostics come out: for limits and texts of choices that compile but
+// are surely not meant. `checkChoices` looks at each entry of each choice by itself.
+// `checkDroppedCharacters` looks at the characters that apostrophes make disappear; it first has to
+// find the innermost text around each of them.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-/// Tells whether a limit is a number and nothing else.
+/// Returns whether a limit is a number and nothing else.
 bool isWhollyNumber(std::string_view limit) {
     const std::string_view number = withoutBlanks(limit);
     if (!number.empty() && std::all_of(number.begin(), number.end(), isDigit)) {
@@ -71,7 +74,7 @@ void checkLimit(const ChoiceEntry& entry, Diagnostics& diagnostics) {
     value.imbue(std::locale::classic());
     value << entry.limit;
     diagnostics.report(rules::choiceLimit, placeOfLimit(entry),
-                       code(entry.limitText.text()) + " is no number" +
+                       code(entry.limitText.text()) + " is not a number" +
                            (entry.limit == 0.0
                                 ? " and counts as 0"
                                 : ": what comes after " + value.str() + " is ignored"),
@@ -89,7 +92,7 @@ void checkOrder(const ChoiceEntry& entry, const ChoiceEntry& former, Diagnostics
 
 void checkEntries(const Placeholder& placeholder, Diagnostics& diagnostics) {
     const ChoiceEntry* former = nullptr;
-    bool isAfterBrace = false; // which leaves an apostrophe before the limit
+    bool isAfterBrace = false; // an apostrophe is then left before the limit
     for (const ChoiceEntry& entry : placeholder.entries) {
         if (entry.brace.file != nullptr) {
             diagnostics.report(rules::choiceClosing, entry.brace,
@@ -111,7 +114,7 @@ void checkEntries(const Placeholder& placeholder, Diagnostics& diagnostics) {
     }
 }
 
-/// A text and where it is, for finding the one that is deepest inside around an offset.
+/// A text and its place, for finding the innermost text around an offset.
 struct Extent {
     std::size_t begin;
     std::size_t end;
@@ -130,7 +133,7 @@ std::vector<Extent> extentsOf(const PatternTree& tree) {
     return extents;
 }
 
-/// Returns the word of a text that is around a position of it.
+/// Returns the word around a position of a text.
 std::string_view wordAround(std::string_view text, std::size_t position) {
     constexpr std::string_view ends = " \t\n{}|#<";
     constexpr std::size_t farthest = 40;
@@ -184,8 +187,8 @@ void checkChoices(const PatternTree& tree, Diagnostics& diagnostics) {
     }
 }
 
-// An apostrophe is resolved by a choice further outside than the text that it was written in. That
-// text is found by passing over all texts and all apostrophes in the order of the file.
+// An apostrophe is resolved by an outer choice, not by the text that contains it. One pass over all
+// texts and all apostrophes, in the order of the file, finds the text of each.
 void checkDroppedCharacters(const PatternTree& tree, Diagnostics& diagnostics) {
     std::vector<const DroppedCharacter*> all;
     for (const PatternText& text : tree.texts()) {

@@ -1,6 +1,3 @@
-// Date patterns that show something else than they seem to. No date pattern can be wrong for the
-// library: what is no field stands for itself.
-
 #include "tool/checks/PatternChecks.h"
 #include "tool/checks/StyleWords.h"
 #include "tool/pattern/Spelling.h"
@@ -15,6 +12,12 @@
 #include <string_view>
 #include <vector>
 
+// A pattern tree goes in, diagnostics come out: for date patterns that show something else than
+// they seem to. The library accepts every date pattern, since characters that are not fields are
+// shown as they are. So the pattern is first split into fields, words and quoted text as the
+// library reads it. Then each check looks for signs of another language of date patterns, or of a
+// word without quotes.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -22,8 +25,8 @@ namespace {
 /// A letter that is a field in other languages of date patterns.
 struct ForeignLetter {
     char letter;
-    char field;         ///< what the advice names; none if there is no such field
-    std::size_t fewest; ///< of the letter in a run; shorter ones are more probably text
+    char field;         ///< the field to write instead; none if there is no such field
+    std::size_t fewest; ///< letters in a run; a shorter run is probably text
     std::string_view advice;
     std::size_t shortest = 1;
     std::size_t longest = 1;
@@ -57,7 +60,7 @@ constexpr ForeignLetter foreignLetters[] = {
     {'Q', '\0', 1, "there are no quarters"},
 };
 
-/// Returns what to write in place of a run of a foreign letter, or why there is nothing.
+/// Returns what to write in place of a run of a foreign letter, or why no field can replace it.
 std::string adviceFor(const ForeignLetter& foreign, std::string_view run) {
     const std::size_t length = std::clamp(run.size(), foreign.shortest, foreign.longest);
     return std::string(foreign.advice) +
@@ -82,10 +85,10 @@ struct Run {
     bool isField;
 };
 
-/// A date pattern as the library reads it.
+/// A date pattern, split as the library reads it.
 struct DatePattern {
     std::vector<std::string_view> fields;
-    std::vector<std::vector<Run>> words; ///< letters without anything between them
+    std::vector<std::vector<Run>> words; ///< runs of letters with nothing between them
     std::vector<std::string_view> quoted;
     std::vector<std::string_view> conversions; ///< `%` and a letter
 };
@@ -131,7 +134,7 @@ private:
     }
 
     DatePattern pattern_;
-    const char* percent_ = nullptr; // where the last piece is one
+    const char* percent_ = nullptr; // the last piece, if it is a percent sign
 };
 
 /// The checks of one date pattern.
@@ -158,9 +161,9 @@ public:
     }
 
 private:
-    /// Tells whether a word is made as patterns are: of fields and of letters that are fields in
-    /// other languages, with `T` and `Z` as they are in ISO 8601. Several letters that all differ
-    /// are rather a word of some language, except hour and marker.
+    /// Returns whether a word is part of a pattern: made of fields and of letters that are fields
+    /// in other languages, with `T` and `Z` as in ISO 8601. Several letters that all differ are
+    /// probably a word of a human language, except hour and marker.
     static bool isPatternLike(const std::vector<Run>& word) {
         const bool isMixed =
             word.size() > 1 && std::all_of(word.begin(), word.end(),
@@ -205,7 +208,7 @@ private:
             }
             isForeign_ = true;
             diagnostics_.report(rules::dateLetter, style_.placeOf(run.text),
-                                code(run.text) + " is no date letter; " +
+                                code(run.text) + " is not a date letter; " +
                                     adviceFor(*foreign, run.text));
         }
     }
@@ -232,7 +235,8 @@ private:
     void reportConversion() {
         const std::string_view first = pattern_.conversions.front();
         diagnostics_.report(rules::dateLetter, style_.placeOf(first),
-                            code(first) + " is no field; write fields as in `yyyy-MM-dd HH:mm:ss`");
+                            code(first) +
+                                " is not a field; write fields as in `yyyy-MM-dd HH:mm:ss`");
     }
 
     void checkQuotes() {
@@ -256,7 +260,7 @@ private:
                letters.find(pattern_.fields[position].front()) != std::string_view::npos;
     }
 
-    /// Finds minutes between days and years, and months between hours and seconds.
+    /// Reports minutes beside days and years, and months beside hours and seconds.
     void checkMinutes() {
         for (std::size_t at = 0; at < pattern_.fields.size(); ++at) {
             const std::string_view field = pattern_.fields[at];
@@ -276,7 +280,8 @@ private:
         }
     }
 
-    /// Finds hours of 12 without a marker, unless it has been tried to write one.
+    /// Reports hours of 12 without a marker, except beside letters that are a marker in other
+    /// languages.
     void checkMarker() {
         std::string_view hour;
         for (const std::string_view field : pattern_.fields) {
@@ -287,8 +292,8 @@ private:
         }
         if (!hour.empty() && !isForeign_) {
             diagnostics_.report(rules::hourMarker, style_.placeOf(hour),
-                                code(hour) + " counts to 12, and nothing tells morning from "
-                                             "afternoon",
+                                code(hour) + " counts to 12, and nothing distinguishes morning "
+                                             "from afternoon",
                                 {{"add `tt`, or write " + code(std::string(hour.size(), 'H'))}});
         }
     }

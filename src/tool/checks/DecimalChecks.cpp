@@ -1,5 +1,3 @@
-// Decimal patterns that compile, but show something else than they seem to.
-
 #include "tool/checks/PatternChecks.h"
 #include "tool/checks/StyleWords.h"
 #include "tool/text/Names.h"
@@ -12,6 +10,10 @@
 #include <stdexcept>
 #include <string>
 
+// A pattern tree goes in, diagnostics come out: for decimal patterns that compile but show
+// something else than they seem to. Each check looks for one sign of that, and renders an example
+// with the library, so that the diagnostic shows what happens.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -22,7 +24,7 @@ constexpr std::string_view digitMarks = "#0";
 constexpr std::string_view numberMarks = "#0,.";
 constexpr char currencySign = '\xA4';
 
-/// Returns a number as a style shows it, nothing if the style doesn't compile.
+/// Returns a number as a style shows it; nothing if the style does not compile.
 std::optional<std::string> show(std::string_view style, double value) {
     try {
         std::string text;
@@ -33,7 +35,7 @@ std::optional<std::string> show(std::string_view style, double value) {
     }
 }
 
-/// Finds the currency byte in characters beyond ASCII, which it takes apart.
+/// Reports characters beyond ASCII that contain the byte of the currency sign, which breaks them.
 void checkEncoding(const TracedText& style, Diagnostics& diagnostics) {
     const std::size_t sign = style.text().find(currencySign);
     if (sign == std::string_view::npos) {
@@ -61,7 +63,7 @@ void checkMarks(const TracedText& style, Diagnostics& diagnostics) {
                        std::move(notes));
 }
 
-/// Finds the digits 1 to 9 beside marks, where they look like a part of the number.
+/// Reports the digits 1 to 9 beside marks, where they look like a part of the number.
 void checkDigits(const TracedText& style, Diagnostics& diagnostics) {
     const std::string_view text = style.text();
     const auto isMark = [text](std::size_t position) {
@@ -82,7 +84,7 @@ void checkDigits(const TracedText& style, Diagnostics& diagnostics) {
     }
 }
 
-/// Finds apostrophes around several characters, which they don't quote.
+/// Reports apostrophes around several characters, which they do not quote.
 void checkQuotes(const TracedText& style, Diagnostics& diagnostics) {
     const std::string text = show(style.text(), 7.0).value_or("");
     if (std::count(text.begin(), text.end(), '\'') >= 2 &&
@@ -93,9 +95,9 @@ void checkQuotes(const TracedText& style, Diagnostics& diagnostics) {
     }
 }
 
-/// Tells whether a choice by the same argument keeps zero away from a placeholder.
+/// Returns whether a choice by the same argument excludes zero for a placeholder.
 bool excludesZero(const PatternTree& tree, const PatternText& text, int index) {
-    constexpr int farthest = 64; // bounds the time; nobody nests as deep
+    constexpr int farthest = 64; // bounds the time; real patterns are not nested so deep
     const PatternText* inner = &text;
     for (int level = 0; level < farthest && inner->depth > 0; ++level) {
         const PatternText& outer = tree.texts()[inner->parent];
@@ -130,7 +132,7 @@ void checkStyle(const PatternTree& tree, const PatternText& text, const Placehol
                 Diagnostics& diagnostics) {
     const TracedText& style = placeholder.style;
     if (!show(style.text(), 1.0)) {
-        return; // a syntax error, which has been reported
+        return; // a syntax error, reported elsewhere
     }
     checkEncoding(style, diagnostics);
     checkQuotes(style, diagnostics);

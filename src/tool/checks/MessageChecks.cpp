@@ -11,6 +11,10 @@
 #include <optional>
 #include <string>
 
+// Catalogues go in, diagnostics come out. Each text of each message is checked by itself as a
+// pattern tree. Then the texts of each identifier are collected from all catalogues, and the
+// arguments of each translation are compared with those of the text that programs show.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -18,7 +22,7 @@ namespace {
 /// The arguments that a text uses, each with its first placeholder.
 using Arguments = std::map<int, Place>;
 
-/// The texts of each message: they may be in several heads, and in several catalogues.
+/// The texts of each message, which may be in several heads and in several catalogues.
 using TextsById = std::map<std::uint32_t, std::vector<const MessageText*>>;
 
 TextsById textsById(const std::vector<Catalogue>& catalogues) {
@@ -35,7 +39,8 @@ TextsById textsById(const std::vector<Catalogue>& catalogues) {
     return texts;
 }
 
-/// Returns nothing for a text with errors, whose placeholders are not all known.
+/// Returns the arguments of a text; nothing for a text with errors, since not all of its
+/// placeholders are known.
 std::optional<Arguments> argumentsOf(const MessageText& message) {
     const PatternTree tree(message.pattern);
     Arguments arguments;
@@ -50,7 +55,7 @@ std::optional<Arguments> argumentsOf(const MessageText& message) {
     return arguments;
 }
 
-/// Reports the first argument that is in one text only.
+/// Reports the first argument that only one of the texts uses.
 void compare(const MessageText& text, const Arguments& own, const Arguments& reference,
              Diagnostics& diagnostics) {
     for (const auto& [index, place] : own) {
@@ -70,7 +75,7 @@ void compare(const MessageText& text, const Arguments& own, const Arguments& ref
     }
 }
 
-/// Compares the texts of a message with the one that is looked up.
+/// Compares the texts of a message with its text in English (United States).
 void checkTranslations(const std::vector<const MessageText*>& texts, Diagnostics& diagnostics) {
     const auto lookedUp = std::find_if(texts.begin(), texts.end(), [](const MessageText* text) {
         return text->language == lookedUpLanguage;

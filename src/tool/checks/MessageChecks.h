@@ -8,8 +8,8 @@
 namespace zem::msglib::tool {
 
 /// Checks the patterns of all messages, and whether the texts of a message in other languages use
-/// the arguments of the one that is looked up. It takes time in proportion to the length of all
-/// texts, and shows on a terminal how far it is.
+/// the same arguments as the text that is looked up. It takes time linear in the length of all
+/// texts, and shows its progress on a terminal.
 void checkMessages(const std::vector<Catalogue>& catalogues, Diagnostics& diagnostics);
 
 } // namespace zem::msglib::tool

@@ -7,13 +7,13 @@ namespace zem::msglib::tool {
 
 // Each of these checks one subject in a pattern and in the texts of all its choices.
 
-/// Reports what doesn't compile.
+/// Reports everything that does not compile.
 void checkSyntax(const PatternTree& tree, Diagnostics& diagnostics);
 
-/// Reports placeholders whose index, type or style word means something else than it seems to.
+/// Reports placeholders whose index, type or style word has another meaning than it seems to have.
 void checkPlaceholders(const PatternTree& tree, Diagnostics& diagnostics);
 
-/// Reports limits and texts of choices that surely aren't meant.
+/// Reports limits and texts of choices that are surely not meant.
 void checkChoices(const PatternTree& tree, Diagnostics& diagnostics);
 
 /// Reports apostrophes in choices that make other characters disappear.
@@ -22,16 +22,16 @@ void checkDroppedCharacters(const PatternTree& tree, Diagnostics& diagnostics);
 /// Reports decimal patterns that compile but show something else than they seem to.
 void checkDecimalStyles(const PatternTree& tree, Diagnostics& diagnostics);
 
-/// Reports the same of date patterns.
+/// Reports date patterns that show something else than they seem to.
 void checkDateStyles(const PatternTree& tree, Diagnostics& diagnostics);
 
-/// Reports the same of static text.
+/// Reports static text that shows something else than it seems to.
 void checkStaticText(const PatternTree& tree, Diagnostics& diagnostics);
 
-/// Reports arguments that nothing uses although a higher one is used.
+/// Reports arguments that are not used although a higher one is.
 void checkArguments(const PatternTree& tree, Diagnostics& diagnostics);
 
-/// All of them.
+/// Runs all of these checks.
 void checkPattern(const PatternTree& tree, Diagnostics& diagnostics);
 
 } // namespace zem::msglib::tool

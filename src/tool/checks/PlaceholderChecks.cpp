@@ -1,5 +1,3 @@
-// What a placeholder's index, type and style word mean, where that is not what they seem to.
-
 #include "tool/checks/PatternChecks.h"
 #include "tool/checks/StyleWords.h"
 #include "tool/text/Names.h"
@@ -11,6 +9,10 @@
 #include <string>
 #include <utility>
 
+// A pattern tree goes in, diagnostics come out: for placeholders whose index, type or style word
+// has another meaning than it seems to have. `checkPlaceholders` visits every placeholder of every
+// text and runs one small check for each part of it.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -19,7 +21,7 @@ using namespace std::string_view_literals;
 
 constexpr std::array typeWords = {"number"sv, "date"sv, "time"sv, "choice"sv};
 
-/// What people write for a type, in lower case, and what they should have written.
+/// A word that people write as a type, in lower case, and the correct form.
 struct Habit {
     std::string_view written;
     std::string_view meant; ///< empty: no type at all
@@ -47,7 +49,7 @@ constexpr Habit habits[] = {
     {"str", ""},
 };
 
-/// Returns what is probably meant by a type that is none.
+/// Returns a note with the type that was probably meant by an unknown one.
 Note noteForType(const Placeholder& placeholder) {
     const std::string word = lowerCase(withoutBlanks(placeholder.type.text()));
     const auto* const habit =
@@ -99,8 +101,8 @@ void checkType(const Placeholder& placeholder, Diagnostics& diagnostics) {
                                " shows");
     } else {
         diagnostics.report(rules::unknownType, placeholder.type.place(),
-                           code(placeholder.type.text()) + " is no type: this shows what " + plain +
-                               " shows",
+                           code(placeholder.type.text()) + " is not a type: this shows what " +
+                               plain + " shows",
                            {noteForType(placeholder)});
     }
 }
@@ -116,12 +118,13 @@ void checkStyleWord(const Placeholder& placeholder, Diagnostics& diagnostics) {
                 : type == "time" ? Note{"leave the style out, or write a pattern such as `HH:mm`"}
                                  : Note{code(word) + " is a style of " + code(owner)};
     diagnostics.report(rules::timeStyle, placeholder.style.place(),
-                       code(placeholder.style.text()) + " is no style of " + code(type) +
+                       code(placeholder.style.text()) + " is not a style of " + code(type) +
                            " and is read as a pattern",
                        {std::move(note)});
 }
 
-/// What drives choices in a pattern, and whether all their limits are whole numbers.
+/// Returns the indexes of the arguments that decide choices, and for each whether all limits of its
+/// choices are whole numbers.
 std::map<int, bool> wholeDrivers(const PatternTree& tree) {
     std::map<int, bool> drivers;
     for (const PatternText& text : tree.texts()) {
@@ -150,7 +153,7 @@ void checkDecimals(const Placeholder& placeholder, const std::map<int, bool>& dr
         {{"for whole numbers write `{" + index + "}` or `{" + index + ",number,integer}`"}});
 }
 
-/// Finds a percent sign after a number that has one.
+/// Reports a percent sign after a number that already has one.
 void checkPercent(const Placeholder& placeholder, Diagnostics& diagnostics) {
     const std::string_view style = placeholder.style.text();
     const bool hasPercent = (placeholder.kind == PlaceholderKind::Number && style == "percent") ||
@@ -160,7 +163,7 @@ void checkPercent(const Placeholder& placeholder, Diagnostics& diagnostics) {
     const std::size_t end = placeholder.whole.end();
     if (hasPercent && end < file.size() && file[end] == '%') {
         diagnostics.report(rules::percentTwice, {placeholder.whole.file, end, 1},
-                           "the number has a percent sign already");
+                           "the number already has a percent sign");
     }
 }
 

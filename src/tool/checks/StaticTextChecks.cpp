@@ -1,10 +1,10 @@
-// Static text that shows something else than it seems to.
-
 #include "tool/checks/PatternChecks.h"
 #include "tool/text/Words.h"
 
 #include <string>
 #include <utility>
+
+// Reports static text that shows something else than it seems to.
 
 namespace zem::msglib::tool {
 
@@ -14,9 +14,10 @@ bool isLetterOrDigit(std::string_view text, std::size_t position) noexcept {
     return position < text.size() && (isLetter(text[position]) || isDigit(text[position]));
 }
 
-/// Returns the length of an insert of other message functions that begins at a percent sign, 0 if
-/// there is none: `%1`, `%1!s!`, `%n`, `%0` at the end, or `%s`, `%d` and the like of C. A
-/// percentage such as `5%` and the escapes of addresses such as `%20` are none.
+/// Returns the length of an insert of another message function that begins at a percent sign; 0 if
+/// there is none. Inserts are `%1`, `%1!s!`, `%n`, `%0` at the end, and `%s`, `%d` and similar
+/// conversions of C. A percentage such as `5%` and an escape in a web address such as `%20` are not
+/// inserts.
 std::size_t insertLength(std::string_view text, std::size_t percent) {
     constexpr std::string_view controls = "nrtb";
     constexpr std::string_view conversions[] = {"s", "d", "u", "i", "x", "ld", "lu", "ls", "lld"};
@@ -66,13 +67,13 @@ void checkInserts(const PatternText& text, std::string_view piece, Diagnostics& 
         if (const std::size_t length = insertLength(piece, at); length > 0) {
             const std::string_view insert = piece.substr(at, length);
             diagnostics.report(rules::foreignInsert, text.text.placeOf(insert),
-                               code(insert) + " is shown as it stands", notesForInsert(insert));
+                               code(insert) + " is shown unchanged", notesForInsert(insert));
         }
     }
 }
 
-/// Finds apostrophes around a letter, a digit or a blank, which vanish although nothing needs
-/// quoting there.
+/// Reports apostrophes around a letter, a digit or a blank. They disappear although the character
+/// needs no quoting.
 void checkQuoted(const PatternText& text, const StaticPiece& piece, Diagnostics& diagnostics) {
     if (!piece.isQuoted || !(isLetterOrDigit(piece.text, 0) || piece.text == " ")) {
         return;

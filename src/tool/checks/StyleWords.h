@@ -7,11 +7,12 @@
 
 namespace zem::msglib::tool {
 
-/// Returns the type that a style word such as `integer` or `short` belongs to; empty if it is none.
+/// Returns the type that a style word such as `integer` or `short` belongs to; empty if it is not a
+/// style word.
 std::string_view typeOfStyleWord(std::string_view word) noexcept;
 
-/// Returns the style word that a style seems to be although the library takes it for a pattern,
-/// since it has blanks, capitals or the wrong type; empty if it seems to be a pattern.
+/// Returns the style word that was probably meant by a style that the library reads as a pattern,
+/// because of blanks, capitals or the wrong type. Empty if a pattern was probably meant.
 std::string misreadStyleWord(const Placeholder& placeholder);
 
 } // namespace zem::msglib::tool

@@ -1,5 +1,3 @@
-// What the library refuses, in its words, with what to write instead where that is likely.
-
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/Spelling.h"
 #include "tool/text/Words.h"
@@ -10,6 +8,10 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+
+// A pattern tree with syntax errors goes in, diagnostics come out. The message of each diagnostic
+// is the library's own. The notes say what to write instead: for some errors, a corrected style is
+// tried and suggested if it compiles.
 
 namespace zem::msglib::tool {
 
@@ -58,8 +60,8 @@ bool compiles(const std::string& decimalPattern) {
     }
 }
 
-/// Returns how to write a style so that all of one of its characters are text; empty if that is not
-/// what makes it compile.
+/// Returns a style in which every occurrence of a character is quoted; empty if the style still
+/// does not compile.
 std::string withTextOf(char character, std::string_view style, std::size_t depth) {
     const std::string quoted = quotedInStyle("number", std::string(1, character), depth);
     std::string tried;
@@ -98,7 +100,8 @@ std::vector<Note> notesFor(const SyntaxError& error, std::size_t depth) {
     return {};
 }
 
-/// Returns the place of an error; that of the line end after a text is at the end of its last line.
+/// Returns the place of an error. An error at the line end after a text is moved to the end of its
+/// last line.
 Place placeOf(const SyntaxError& error) {
     Place place = error.place;
     const std::string_view file = place.file->text();
@@ -113,11 +116,11 @@ Place placeOf(const SyntaxError& error) {
 void checkSyntax(const PatternTree& tree, Diagnostics& diagnostics) {
     for (const PatternText& text : tree.texts()) {
         for (const SyntaxError& error : text.errors) {
-            std::string words = error.words;
-            while (!words.empty() && words.back() == '.') {
-                words.pop_back();
+            std::string message = error.message;
+            while (!message.empty() && message.back() == '.') {
+                message.pop_back();
             }
-            diagnostics.report(rules::syntax, placeOf(error), std::move(words),
+            diagnostics.report(rules::syntax, placeOf(error), std::move(message),
                                notesFor(error, text.depth));
         }
     }

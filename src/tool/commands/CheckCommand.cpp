@@ -16,6 +16,10 @@
 #include <utility>
 #include <vector>
 
+// `msglib check`: message text files, files with a pattern in each line and single patterns go in,
+// diagnostics come out. All files are checked as catalogues of one module. Files and patterns are
+// numbered in this order, by which diagnostics are sorted.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -28,7 +32,7 @@ struct CheckOptions {
     DiagnosticOptions diagnostics;
 };
 
-/// Everything that is checked in one run, which diagnostics point into.
+/// Checks all inputs of one run, and owns them, since diagnostics refer to them.
 class CheckRun {
 public:
     explicit CheckRun(const CheckOptions& options)

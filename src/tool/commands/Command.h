@@ -11,10 +11,11 @@ namespace zem::msglib::tool {
 /// The exit status of the program.
 enum class ExitStatus { success = 0, errors = 1, cannotRun = 2 };
 
-/// What the chosen command does once the whole command line has been read.
+/// The work of the chosen command, to be called after the whole command line was read.
 using Command = std::function<ExitStatus()>;
 
-// Each of these adds a command to the program. If it is chosen, it is put into `chosen`.
+// Each of these functions adds a command to the program. If the user chooses the command, its work
+// is stored in `chosen`.
 
 void addCheckCommand(CLI::App& program, Command& chosen);
 void addCompileCommand(CLI::App& program, Command& chosen);

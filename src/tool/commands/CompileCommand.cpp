@@ -24,6 +24,10 @@
 #include <utility>
 #include <vector>
 
+// `msglib compile`: message text files go in, sources and tables come out. The names of outputs are
+// checked first, then the catalogues. Only if there is no error, all outputs are made in memory and
+// written together.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -39,14 +43,15 @@ struct CompileOptions {
     DiagnosticOptions diagnostics;
 };
 
-/// Tells whether a text is one or more names of C++ with "::" between them.
+/// Returns whether a text is one or more names of C++ with "::" between them.
 bool isNamespace(std::string_view text) {
     const std::size_t end = std::min(text.find("::"), text.size());
     return isIdentifier(text.substr(0, end)) && !isKeywordOfCpp(text.substr(0, end)) &&
            (end == text.size() || isNamespace(text.substr(end + 2)));
 }
 
-/// Reads the namespaces of typed calls that the command line names, by their catalogues.
+/// Returns the namespaces of typed calls that the command line sets, by the names of their
+/// catalogues.
 std::map<std::string, std::string> readNamespaces(const std::vector<std::string>& entries) {
     std::map<std::string, std::string> namespaces;
     for (const std::string& entry : entries) {
@@ -67,8 +72,8 @@ bool isPlain(const std::string& name) {
            });
 }
 
-/// Refuses catalogues whose generated files or functions would have one name, and names that
-/// cannot stand in a source.
+/// Returns the names of the outputs of all catalogues. Refuses catalogues whose outputs would have
+/// the same names, and names that cannot be written into a source file.
 std::vector<CatalogueName> namesOf(const CompileOptions& options) {
     auto namespaces = readNamespaces(options.namespaces);
     std::vector<CatalogueName> names;
@@ -96,13 +101,13 @@ std::vector<CatalogueName> namesOf(const CompileOptions& options) {
     return names;
 }
 
-/// Returns the header of typed calls, unless their outermost namespace is a symbolic name too.
+/// Returns the header of typed calls. Refuses an outermost namespace that is also a symbolic name.
 std::string callsText(const CatalogueName& name, const Signatures& signatures) {
     const std::string_view space = std::string_view(name.calls).substr(0, name.calls.find("::"));
     for (const CallSignature& signature : signatures) {
         if (signature.symbol == space) {
             throw CannotRun(name.file + ": the symbolic name " + std::string(space) +
-                            " is the namespace of the typed calls too; name another one by "
+                            " is also the namespace of the typed calls; choose another one with "
                             "--namespace " +
                             name.stem + "=NAMESPACE");
         }
@@ -159,7 +164,7 @@ ExitStatus compile(const CompileOptions& options) {
 void addCompileCommand(CLI::App& program, Command& chosen) {
     const auto options = std::make_shared<CompileOptions>();
     CLI::App& command = *program.add_subcommand(
-        "compile", "Check catalogues and write what embeds them into a module");
+        "compile", "Check catalogues and write the sources that embed them into a module");
     command.add_option("FILE", options->files, "Message text files (.mc)")->required();
     command.add_option("--output", options->output, "Folder to write to")
         ->required()
@@ -167,7 +172,7 @@ void addCompileCommand(CLI::App& program, Command& chosen) {
     command
         .add_option(
             "--format", options->format,
-            "What carries the tables: elf (the sources themselves) or rc (a resource script "
+            "Where the tables are: elf (in the sources) or rc (in files of a resource script "
             "for Windows, messages.rc)")
         ->type_name("FORMAT")
         ->check(CLI::IsMember({"elf", "rc"}));
@@ -177,8 +182,8 @@ void addCompileCommand(CLI::App& program, Command& chosen) {
         ->type_name("NAME");
     command
         .add_option("--namespace", options->namespaces,
-                    "Namespace of a catalogue's typed calls, as in App=app::messages; without it "
-                    "the catalogue's name in upper camel case")
+                    "Namespace of a catalogue's typed calls, as in App=app::messages; the "
+                    "default is the catalogue's name in upper camel case")
         ->type_name("CATALOGUE=NAMESPACE")
         ->allow_extra_args(false);
     options->diagnostics.addTo(command, "--diagnostics");

@@ -17,7 +17,8 @@ void DiagnosticOptions::addTo(CLI::App& command, const std::string& formOption) 
         ->type_name("RULE")
         ->allow_extra_args(false);
     command
-        .add_option("--deny", denied_, "Make errors of a rule's diagnostics, or of all `warnings`")
+        .add_option("--deny", denied_,
+                    "Report the diagnostics of a rule, or all `warnings`, as errors")
         ->type_name("RULE")
         ->allow_extra_args(false);
     command.add_option(formOption, form_, "Form of the diagnostics: text, msvc, json or sarif")

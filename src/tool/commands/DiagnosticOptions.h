@@ -11,8 +11,8 @@ class App;
 
 namespace zem::msglib::tool {
 
-/// The options that all commands share which report diagnostics: `--allow`, `--deny`, `--color` and
-/// the form.
+/// The options of all commands that report diagnostics: `--allow`, `--deny`, `--color` and the
+/// form.
 class DiagnosticOptions {
 public:
     /// Adds the options to a command; the object must live until it has run.
@@ -20,17 +20,17 @@ public:
     /// @param formOption  the name of the option for the form, such as `--format`
     void addTo(CLI::App& command, const std::string& formOption);
 
-    /// Returns what the options make of the severities of rules.
+    /// Returns how the options change the severities of rules.
     ///
-    /// @throws CannotRun if one of them names no rule
+    /// @throws CannotRun if an option names an unknown rule
     SeverityPolicy policy() const { return {allowed_, denied_}; }
 
-    /// Writes diagnostics: as text to standard error, for programs to standard output.
+    /// Writes diagnostics: text to standard error, JSON and SARIF to standard output.
     ///
     /// @throws CannotRun if they cannot be written
     void write(const std::vector<Diagnostic>& diagnostics) const;
 
-    /// Tells whether text on standard output is to be coloured.
+    /// Returns whether text on standard output has colours.
     bool coloursOutput() const;
 
 private:

@@ -82,14 +82,13 @@ void addDiffCommand(CLI::App& program, Command& chosen) {
                     "Encoding of text files that are neither UTF-8 nor UTF-16, as iconv names it")
         ->type_name("NAME");
     options->output.addTo(command);
-    command.footer(
-        "Symbolic names, and comments about arguments, are known of text files alone.\n\n"
-        "Examples:\n"
-        "  msglib diff App.mc.orig App.mc\n"
-        "  msglib diff <(git show v1.0:App.mc) App.mc\n"
-        "  msglib diff /usr/lib/libapp.so build/libapp.so --format json\n\n"
-        "Exit status: 0 if callers of the old version still fit, 1 if not, 2 if the "
-        "program could not run.");
+    command.footer("Only text files have symbolic names, and comments about arguments.\n\n"
+                   "Examples:\n"
+                   "  msglib diff App.mc.orig App.mc\n"
+                   "  msglib diff <(git show v1.0:App.mc) App.mc\n"
+                   "  msglib diff /usr/lib/libapp.so build/libapp.so --format json\n\n"
+                   "Exit status: 0 if callers of the old version still fit, 1 if not, 2 if the "
+                   "program could not run.");
     command.callback([options, &chosen] { chosen = [options] { return diff(*options); }; });
 }
 

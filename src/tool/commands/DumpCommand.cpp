@@ -22,7 +22,7 @@ struct DumpOptions {
 ExitStatus dump(const DumpOptions& options) {
     const auto tables = readTables(options.module, readBytes(options.module));
     if (tables.empty() && !options.output.isJson()) {
-        report(options.module + ": there are no messages in it");
+        report(options.module + ": this file has no messages");
         return ExitStatus::errors;
     }
     print(options.output.isJson() ? jsonOf(tables)

@@ -23,12 +23,12 @@ ExitStatus explain(MessageInput& input) {
     const Colours colours(input.diagnostics().coloursOutput());
     bool isFirst = true;
     for (const InputText& text : input.texts()) {
-        std::string words = isFirst ? "" : "\n";
+        std::string output = isFirst ? "" : "\n";
         isFirst = false;
-        words += text.title.empty() ? "" : colours.title(text.title) + '\n';
-        words += text.pattern ? explanationOf(PatternTree(*text.pattern), colours)
-                              : colours.note("no text in this language") + '\n';
-        print(words);
+        output += text.title.empty() ? "" : colours.title(text.title) + '\n';
+        output += text.pattern ? explanationOf(PatternTree(*text.pattern), colours)
+                               : colours.note("no text in this language") + '\n';
+        print(output);
     }
     return input.hasErrors() ? ExitStatus::errors : ExitStatus::success;
 }
@@ -38,7 +38,7 @@ ExitStatus explain(MessageInput& input) {
 void addExplainCommand(CLI::App& program, Command& chosen) {
     const auto input = std::make_shared<MessageInput>();
     CLI::App& command = *program.add_subcommand(
-        "explain", "Say in words how patterns are read: texts, arguments, formats, choices");
+        "explain", "Describe in words how patterns are read: texts, arguments, formats, choices");
     input->addTo(command, false);
     command.footer(
         "Examples:\n"

@@ -13,6 +13,10 @@
 #include <iostream>
 #include <utility>
 
+// The options name a file and perhaps one of its messages, or a pattern; a list of texts comes out.
+// A file is read and checked as by `msglib check`, without warnings and notes. Then the texts of
+// the chosen messages are collected, each with its title and what is known about its arguments.
+
 namespace zem::msglib::tool {
 
 void MessageInput::addTo(CLI::App& command, bool takesArguments) {
@@ -62,14 +66,14 @@ void MessageInput::read() {
     try {
         selectTexts();
     } catch (const CannotRun&) {
-        if (!hasErrors_) { // after which a message may be missing
+        if (!hasErrors_) { // errors may have removed the message
             throw;
         }
     }
 }
 
 void MessageInput::readPattern(Diagnostics& diagnostics) {
-    // Without a file, all words are arguments.
+    // Without a file, all positional words are arguments.
     if (name_) {
         arguments_.insert(arguments_.begin(), *name_);
     }

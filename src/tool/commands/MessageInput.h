@@ -17,20 +17,20 @@ class App;
 
 namespace zem::msglib::tool {
 
-/// A text that a command is about.
+/// A text that a command works on.
 struct InputText {
     std::string title; ///< as in `MSG_COPIED (0x40010002), English`; empty for a single pattern
-    std::optional<Place> pattern; ///< nothing if the message has no text in the wanted language
-    std::vector<Parameter> parameters; ///< what comments say about the arguments
+    std::optional<Place> pattern; ///< nothing if the message has no text in the chosen language
+    std::vector<Parameter> parameters; ///< what comments add about the arguments
     bool isLookedUp;                   ///< whether it is the text that programs show
 };
 
-/// The options and the input of commands that are about the messages of a file or about a pattern:
+/// The options and the input of commands that work on the messages of a file or on a pattern:
 ///
 ///     FILE [SYMBOL|ID] [ARGUMENT...] [--language NAME] [--encoding NAME]
 ///     --pattern TEXT [ARGUMENT...]
 ///
-/// Errors in the file or the pattern are reported as by `check`, without warnings and notes.
+/// Errors in the file or the pattern are reported as `check` does, without warnings and notes.
 class MessageInput {
 public:
     /// Adds the options to a command; the object must live until it has run.
@@ -40,15 +40,16 @@ public:
 
     /// Reads and checks the file or the pattern, and writes the errors.
     ///
-    /// @throws CannotRun if nothing was named, a file cannot be read, or there is no such message
+    /// @throws CannotRun if neither file nor pattern is given, if the file cannot be read, or if
+    ///         there is no such message
     void read();
 
-    /// Returns what has been read: all texts of the message that was named, or of all messages. The
-    /// text in the language that is looked up comes first. Empty if the file has errors that leave
-    /// nothing to show.
+    /// Returns the texts that were read: those of the chosen message, or of all messages. The text
+    /// in the language that is looked up comes first. Empty if the file has errors and nothing can
+    /// be shown.
     const std::vector<InputText>& texts() const noexcept { return texts_; }
 
-    /// Returns the arguments as they were written; if there are any, they are for the first text.
+    /// Returns the arguments as they were written. If there are any, they belong to the first text.
     const std::vector<std::string>& arguments() const noexcept { return arguments_; }
 
     bool hasErrors() const noexcept { return hasErrors_; }

@@ -16,8 +16,8 @@ void print(const std::string& text) {
     }
 }
 
-void report(const std::string& words) {
-    std::fputs(("msglib: " + words + '\n').c_str(), stderr);
+void report(const std::string& message) {
+    std::fputs(("msglib: " + message + '\n').c_str(), stderr);
 }
 
 void OutputOptions::addTo(CLI::App& command) {

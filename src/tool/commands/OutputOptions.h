@@ -14,8 +14,8 @@ namespace zem::msglib::tool {
 /// @throws CannotRun if it cannot be written
 void print(const std::string& text);
 
-/// Writes a line of words about the work to standard error, after the program's name.
-void report(const std::string& words);
+/// Writes a line to standard error, after the name of the program.
+void report(const std::string& message);
 
 /// The options of commands that show something as text or as JSON: `--format` and `--color`.
 class OutputOptions {
@@ -25,7 +25,7 @@ public:
 
     bool isJson() const noexcept { return form_ == "json"; }
 
-    /// Tells whether text for a stream is to be coloured.
+    /// Returns whether text for a stream has colours.
     bool isColoured(std::FILE* stream) const;
 
 private:

@@ -12,6 +12,9 @@
 #include <optional>
 #include <string>
 
+// `msglib quote`: a text and its place in a pattern go in, the shortest known spelling comes out.
+// `Quoter` finds it by asking the library. If there is none, an advice is printed instead.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -24,7 +27,7 @@ struct QuoteOptions {
     std::optional<std::size_t> depth;
 };
 
-/// Returns a text with U+2019 in place of apostrophes, which has no meaning anywhere.
+/// Returns a text with U+2019, which has no meaning in any pattern, in place of apostrophes.
 std::string withTypographicApostrophes(const std::string& text) {
     std::string result;
     for (const char byte : text) {
@@ -33,7 +36,7 @@ std::string withTypographicApostrophes(const std::string& text) {
     return result;
 }
 
-/// Returns what to do where a text has no spelling.
+/// Returns what to do if a text has no spelling.
 std::string advice(const QuoteOptions& options, const Quoter& quoter) {
     const std::string other = withTypographicApostrophes(options.text);
     if (other != options.text) {
@@ -46,7 +49,7 @@ std::string advice(const QuoteOptions& options, const Quoter& quoter) {
                : "pass it as an argument";
 }
 
-/// Returns what a message text file cannot hold of a text; empty if it holds all.
+/// Returns why a message text file cannot hold a text; empty if it can.
 std::string limitOfFiles(const std::string& text) {
     if (text.find_first_of("\r\x1A") != std::string::npos) {
         return "a message text file cannot have a carriage return or Ctrl-Z in a text";
@@ -73,7 +76,7 @@ ExitStatus quote(const QuoteOptions& options) {
     const Quoter quoter(place, depth);
     const auto spelling = quoter.quote(options.text);
     if (!spelling) {
-        report("no spelling was found that shows it there; " + advice(options, quoter));
+        report("no spelling was found that shows this text there; " + advice(options, quoter));
         return ExitStatus::errors;
     }
     print(*spelling + '\n');
@@ -88,22 +91,23 @@ ExitStatus quote(const QuoteOptions& options) {
 
 void addQuoteCommand(CLI::App& program, Command& chosen) {
     const auto options = std::make_shared<QuoteOptions>();
-    CLI::App& command =
-        *program.add_subcommand("quote", "Say how a pattern has to write a text that is shown");
-    command.add_option("TEXT", options->text, "What is to be shown, as it is")->required();
+    CLI::App& command = *program.add_subcommand(
+        "quote", "Show how to write a text in a pattern so that it appears unchanged");
+    command.add_option("TEXT", options->text, "The text that has to appear")->required();
     command
-        .add_option("--in", options->place,
-                    "Where: text (of a message), choice (the text of one), number or date (text in "
-                    "a decimal or date style)")
+        .add_option(
+            "--in", options->place,
+            "Where: text (of a message), choice (text of a choice), number or date (text in "
+            "a decimal or date style)")
         ->type_name("PLACE")
         ->check(CLI::IsMember({"text", "choice", "number", "date"}));
     command
         .add_option("--depth", options->depth,
-                    "In how many choices it is: 1 for a choice, else 0, if not given")
+                    "Number of choices around the place; the default is 1 for a choice, else 0")
         ->type_name("N")
         ->check(CLI::Range(std::size_t{0}, deepest));
     command.footer(
-        "The library is asked what the spelling shows before it is printed.\n\n"
+        "Every spelling is rendered by the library before it is printed.\n\n"
         "Examples:\n"
         "  msglib quote \"use {0}, don't guess\"                '{'0'}' for {0}\n"
         "  msglib quote \"It's full\" --in choice             the text of a choice\n"

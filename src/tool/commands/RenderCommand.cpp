@@ -18,13 +18,17 @@
 #include <string_view>
 #include <vector>
 
+// `msglib render`: a file or a pattern goes in, and perhaps arguments. With arguments, one text
+// comes out, as a program shows it. Without, a table of samples comes out for each text: the
+// arguments, and what the library renders for them.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-constexpr std::size_t widestArguments = 40; // a longer list pushes its own text only
+constexpr std::size_t widestArguments = 40; // a longer list moves only its own text
 
-/// Returns a text without the line end that texts of catalogues have.
+/// Returns a text without the line end at its end.
 std::string_view withoutLineEnd(std::string_view text) {
     return !text.empty() && text.back() == '\n' ? text.substr(0, text.size() - 1) : text;
 }
@@ -86,7 +90,7 @@ void showSamples(const MessageInput& input, const Colours& colours) {
     }
 }
 
-/// Shows the text with the given arguments; returns whether that is the message.
+/// Shows the text with the given arguments. Returns whether rendering succeeded.
 bool showText(const MessageInput& input) {
     std::vector<WrittenArgument> arguments;
     for (const std::string& argument : input.arguments()) {
@@ -97,7 +101,7 @@ bool showText(const MessageInput& input) {
         text.pattern ? render(text.pattern->text(), arguments) : renderMissing();
     print(std::string(withoutLineEnd(rendering.text)) + '\n');
     if (rendering.isFailure) {
-        report("note: rendering fails, and these words take the message's place");
+        report("note: rendering fails, and programs show this text in place of the message");
     }
     return !rendering.isFailure;
 }

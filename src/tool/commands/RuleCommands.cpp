@@ -37,8 +37,8 @@ ExitStatus explain(const std::string& name) {
 
 void addRulesCommand(CLI::App& program, Command& chosen) {
     const auto isPage = std::make_shared<bool>(false);
-    CLI::App& command = *program.add_subcommand("rules", "List what is checked");
-    command.add_flag("--markdown", *isPage, "Write the page of the documentation");
+    CLI::App& command = *program.add_subcommand("rules", "List the rules that are checked");
+    command.add_flag("--markdown", *isPage, "Write the documentation page of all rules");
     command.callback([isPage, &chosen] {
         chosen = [isPage] { return show(*isPage ? rulePage() : ruleList()); };
     });
@@ -46,8 +46,8 @@ void addRulesCommand(CLI::App& program, Command& chosen) {
 
 void addExplainRuleCommand(CLI::App& program, Command& chosen) {
     const auto name = std::make_shared<std::string>();
-    CLI::App& command = *program.add_subcommand(
-        "explain-rule", "Say why a rule is there and what to write instead");
+    CLI::App& command =
+        *program.add_subcommand("explain-rule", "Show why a rule exists and what to write instead");
     command.add_option("NAME", *name, "A rule")->required();
     command.footer("Example:\n  msglib explain-rule choice-quote");
     command.callback([name, &chosen] { chosen = [name] { return explain(*name); }; });

@@ -8,6 +8,10 @@
 #include <algorithm>
 #include <cctype>
 
+// Diagnostics go in, JSON comes out in one of two forms: an array of objects, or a SARIF log that
+// also lists all rules. Places become lines and columns, and a note without a place of its own has
+// the place of its diagnostic.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -17,7 +21,8 @@ using Json = nlohmann::ordered_json;
 
 constexpr int indentation = 2;
 
-/// Returns the JSON text. What is no UTF-8, which only the name of a file can be, is replaced.
+/// Returns the JSON text. Bytes that are not UTF-8, which only the name of a file may contain, are
+/// replaced.
 std::string dump(const Json& json) {
     return json.dump(indentation, ' ', false, Json::error_handler_t::replace) + '\n';
 }
@@ -32,8 +37,8 @@ Json positionOf(const Place& place) {
             {"endColumn", end.column}};
 }
 
-Json withMessage(Json object, const std::string& words) {
-    object["message"] = words;
+Json withMessage(Json object, const std::string& message) {
+    object["message"] = message;
     return object;
 }
 
@@ -82,11 +87,11 @@ Json resultOf(const Diagnostic& diagnostic) {
     Json result = {{"ruleId", diagnostic.rule->name},
                    {"ruleIndex", index},
                    {"level", nameOf(diagnostic.severity)},
-                   {"message", {{"text", diagnostic.words}}},
+                   {"message", {{"text", diagnostic.message}}},
                    {"locations", Json::array({locationOf(diagnostic.place)})}};
     for (const Note& note : diagnostic.notes) {
         Json location = locationOf(placeOf(note, diagnostic));
-        location["message"] = {{"text", note.words}};
+        location["message"] = {{"text", note.message}};
         result["relatedLocations"].push_back(location);
     }
     return result;
@@ -100,11 +105,11 @@ std::string jsonOf(const std::vector<Diagnostic>& diagnostics) {
         Json object = positionOf(diagnostic.place);
         object["severity"] = nameOf(diagnostic.severity);
         object["rule"] = diagnostic.rule->name;
-        object["message"] = diagnostic.words;
+        object["message"] = diagnostic.message;
         object["notes"] = Json::array();
         for (const Note& note : diagnostic.notes) {
             object["notes"].push_back(
-                withMessage(positionOf(placeOf(note, diagnostic)), note.words));
+                withMessage(positionOf(placeOf(note, diagnostic)), note.message));
         }
         all.push_back(std::move(object));
     }

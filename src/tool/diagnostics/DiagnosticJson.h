@@ -13,7 +13,7 @@ namespace zem::msglib::tool {
 ///      "severity": "warning", "rule": "choice-quote", "message": "...",
 ///      "notes": [{"file": ..., "message": "..."}]}
 ///
-/// Columns count characters; the end is that of the character after the last one.
+/// Columns count characters. The end is the position after the last character.
 std::string jsonOf(const std::vector<Diagnostic>& diagnostics);
 
 /// Returns diagnostics as a log of the Static Analysis Results Interchange Format, 2.1.0.

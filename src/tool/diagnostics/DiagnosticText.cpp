@@ -6,11 +6,17 @@
 
 #include <algorithm>
 
+// Diagnostics go in, text comes out in one of two forms. The form of compilers shows the line of
+// each diagnostic with a caret below: `Excerpt` cuts long lines around the place, and counts
+// characters so that the caret is below the right one. The other form has one line for each
+// diagnostic and note.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-// How many characters of a line are shown, and how many of them at most before the place.
+// The number of characters of a line that are shown, and how many of them at most are before the
+// place.
 constexpr std::size_t shownCharacters = 140;
 constexpr std::size_t shownBefore = 100;
 constexpr std::size_t longestShown = 4 * shownCharacters; // in bytes
@@ -18,13 +24,13 @@ constexpr std::size_t longestShown = 4 * shownCharacters; // in bytes
 constexpr std::size_t numberWidth = 5;
 constexpr const char* ellipsis = "…";
 
-std::string coloured(const std::string& words, Severity severity, const Colours& colours) {
-    return severity == Severity::error     ? colours.error(words)
-           : severity == Severity::warning ? colours.warning(words)
-                                           : colours.note(words);
+std::string coloured(const std::string& text, Severity severity, const Colours& colours) {
+    return severity == Severity::error     ? colours.error(text)
+           : severity == Severity::warning ? colours.warning(text)
+                                           : colours.note(text);
 }
 
-/// Returns the position that is at most as many characters before another one.
+/// Returns the position that is `most` characters before `position`, or 0 if there are fewer.
 std::size_t charactersBack(std::string_view text, std::size_t position, std::size_t most) {
     for (std::size_t count = 0; count < most && position > 0; ++count) {
         do {
@@ -76,12 +82,12 @@ private:
     std::string caret_;
 };
 
-void appendHead(std::string& out, const Place& place, Severity severity, const std::string& words,
+void appendHead(std::string& out, const Place& place, Severity severity, const std::string& message,
                 const Colours& colours) {
     const auto position = place.file->positionOf(place.offset);
     out += colours.title(place.file->name() + ':' + std::to_string(position.line) + ':' +
                          std::to_string(position.column) + ": ") +
-           coloured(std::string(nameOf(severity)) + ": ", severity, colours) + words;
+           coloured(std::string(nameOf(severity)) + ": ", severity, colours) + message;
 }
 
 void appendExcerpt(std::string& out, const Place& place, const Colours& colours) {
@@ -89,10 +95,10 @@ void appendExcerpt(std::string& out, const Place& place, const Colours& colours)
 }
 
 void appendMsvc(std::string& out, const Place& place, const std::string& what,
-                const std::string& words) {
+                const std::string& message) {
     const auto position = place.file->positionOf(place.offset);
     out += place.file->name() + '(' + std::to_string(position.line) + ',' +
-           std::to_string(position.column) + "): " + what + ": " + words + '\n';
+           std::to_string(position.column) + "): " + what + ": " + message + '\n';
 }
 
 const Place& placeOf(const Note& note, const Diagnostic& diagnostic) {
@@ -105,11 +111,11 @@ std::string textOf(const std::vector<Diagnostic>& diagnostics, bool isColoured) 
     const Colours colours(isColoured);
     std::string out;
     for (const Diagnostic& diagnostic : diagnostics) {
-        appendHead(out, diagnostic.place, diagnostic.severity, diagnostic.words, colours);
+        appendHead(out, diagnostic.place, diagnostic.severity, diagnostic.message, colours);
         out += " [" + std::string(diagnostic.rule->name) + "]\n";
         appendExcerpt(out, diagnostic.place, colours);
         for (const Note& note : diagnostic.notes) {
-            appendHead(out, placeOf(note, diagnostic), Severity::note, note.words, colours);
+            appendHead(out, placeOf(note, diagnostic), Severity::note, note.message, colours);
             out += '\n';
             if (note.place.file != nullptr) {
                 appendExcerpt(out, note.place, colours);
@@ -124,9 +130,9 @@ std::string msvcTextOf(const std::vector<Diagnostic>& diagnostics) {
     for (const Diagnostic& diagnostic : diagnostics) {
         appendMsvc(out, diagnostic.place,
                    nameOf(diagnostic.severity) + (' ' + std::string(diagnostic.rule->name)),
-                   diagnostic.words);
+                   diagnostic.message);
         for (const Note& note : diagnostic.notes) {
-            appendMsvc(out, placeOf(note, diagnostic), "note", note.words);
+            appendMsvc(out, placeOf(note, diagnostic), "note", note.message);
         }
     }
     return out;

@@ -7,9 +7,9 @@
 
 namespace zem::msglib::tool {
 
-/// Returns diagnostics in the form of compilers, with the line that each is about:
+/// Returns diagnostics in the form of compilers, each with its source line:
 ///
-///     App.mc:31:34: warning: words [rule]
+///     App.mc:31:34: warning: message [rule]
 ///        31 | the line
 ///           |   ^~~~
 ///     App.mc:31:34: note: what to write instead
@@ -19,8 +19,8 @@ namespace zem::msglib::tool {
 /// @param isColoured  whether to add the escape sequences of terminals
 std::string textOf(const std::vector<Diagnostic>& diagnostics, bool isColoured);
 
-/// Returns diagnostics in the form that Visual Studio and MSBuild recognise:
-/// `App.mc(31,34): warning rule: words`.
+/// Returns diagnostics in the form that Visual Studio and MSBuild recognise: `App.mc(31,34):
+/// warning rule: message`.
 std::string msvcTextOf(const std::vector<Diagnostic>& diagnostics);
 
 /// Returns the name of a severity: note, warning or error.

@@ -6,6 +6,10 @@
 #include <tuple>
 #include <utility>
 
+// The checks report diagnostics in any order, and allowances of comments as they are read. `take`
+// sorts the allowances, removes the diagnostics that they or the command line silence, reports
+// allowances that silenced nothing, and sorts the rest by file and position.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -57,15 +61,15 @@ bool Diagnostics::isOn(const Rule& rule) const {
     return policy_.apply(rule, rule.severity) != Severity::off;
 }
 
-void Diagnostics::report(const Rule& rule, Place place, std::string words,
+void Diagnostics::report(const Rule& rule, Place place, std::string message,
                          std::vector<Note> notes) {
-    report(rule, rule.severity, place, std::move(words), std::move(notes));
+    report(rule, rule.severity, place, std::move(message), std::move(notes));
 }
 
-void Diagnostics::report(const Rule& rule, Severity severity, Place place, std::string words,
+void Diagnostics::report(const Rule& rule, Severity severity, Place place, std::string message,
                          std::vector<Note> notes) {
     diagnostics_.push_back(
-        {&rule, policy_.apply(rule, severity), place, std::move(words), std::move(notes)});
+        {&rule, policy_.apply(rule, severity), place, std::move(message), std::move(notes)});
 }
 
 void Diagnostics::allow(const Rule& rule, Place directive, std::size_t begin, std::size_t end) {
@@ -91,8 +95,8 @@ std::vector<Diagnostic> Diagnostics::take() {
     return std::move(diagnostics_);
 }
 
-/// Looks for an allowance in the comments of the message that the diagnostic is in. Messages do not
-/// overlap, so those are the last ones that begin before it.
+/// Returns whether a comment of the message around the diagnostic allows its rule. Messages do not
+/// overlap, so the allowances of this message are the last ones that begin before the diagnostic.
 bool Diagnostics::isAllowed(const Diagnostic& diagnostic) {
     const Place& place = diagnostic.place;
     auto allowance =

@@ -9,10 +9,11 @@
 
 namespace zem::msglib::tool {
 
-/// A remark below a diagnostic: what to write instead, or another place that is concerned.
+/// A remark below a diagnostic: what to write instead, or another place that belongs to the
+/// problem.
 struct Note {
-    std::string words;
-    Place place = {}; ///< without a file, it is the place of the diagnostic
+    std::string message;
+    Place place = {}; ///< if it has no file, the place of the diagnostic
 };
 
 /// One problem in a file.
@@ -20,21 +21,21 @@ struct Diagnostic {
     const Rule* rule;
     Severity severity;
     Place place;
-    std::string words; ///< begins in lower case and has no full stop
+    std::string message; ///< begins in lower case and has no full stop
     std::vector<Note> notes;
 };
 
-/// What the command line changes about the severities of rules.
+/// The changes of rule severities on the command line.
 class SeverityPolicy {
 public:
     /// @param allowed  names of rules whose diagnostics are left out
     /// @param denied   names of rules whose diagnostics are errors, also of rules that are off; or
     /// `warnings`, which makes errors of all warnings. A rule that is in both lists is allowed.
-    /// @throws CannotRun for a name that is no rule's, and for a rule that cannot be allowed
+    /// @throws CannotRun for an unknown rule, and for a rule that cannot be allowed
     SeverityPolicy(const std::vector<std::string>& allowed, const std::vector<std::string>& denied);
     SeverityPolicy() = default;
 
-    /// Returns the severity of a diagnostic that the rule itself gives `severity`.
+    /// Returns the final severity of a diagnostic whose severity by its rule is `severity`.
     Severity apply(const Rule& rule, Severity severity) const;
 
 private:
@@ -43,19 +44,19 @@ private:
     bool warningsAreErrors_ = false;
 };
 
-/// Collects what is found in the files of one run.
+/// Collects the diagnostics of one run.
 class Diagnostics {
 public:
     explicit Diagnostics(SeverityPolicy policy = {});
 
-    /// Tells whether diagnostics of a rule that is off by itself are asked for.
+    /// Returns whether a rule is on, also one that is off by default.
     bool isOn(const Rule& rule) const;
 
     /// Adds a diagnostic with the severity of its rule.
-    void report(const Rule& rule, Place place, std::string words, std::vector<Note> notes = {});
+    void report(const Rule& rule, Place place, std::string message, std::vector<Note> notes = {});
 
-    /// Adds a diagnostic with a severity of its own, for rules that have several.
-    void report(const Rule& rule, Severity severity, Place place, std::string words,
+    /// Adds a diagnostic with its own severity, for rules with several severities.
+    void report(const Rule& rule, Severity severity, Place place, std::string message,
                 std::vector<Note> notes = {});
 
     /// Silences a rule between two offsets of a file, as a comment in the file asks.
@@ -63,8 +64,8 @@ public:
     /// @param directive  the rule's name in the comment, with its file
     void allow(const Rule& rule, Place directive, std::size_t begin, std::size_t end);
 
-    /// Returns all diagnostics, ordered by file and position, without those that are silenced but
-    /// with those of allowances that silenced nothing. To be called once, after all checks.
+    /// Returns all diagnostics by file and position, without silenced ones, and with a diagnostic
+    /// for each allowance that silenced nothing. To be called once, after all checks.
     std::vector<Diagnostic> take();
 
 private:
@@ -85,7 +86,7 @@ private:
     std::vector<Allowance> allowances_; ///< in order once `take` has sorted them
 };
 
-/// Tells whether one of the diagnostics is an error.
+/// Returns whether one of the diagnostics is an error.
 bool hasErrors(const std::vector<Diagnostic>& diagnostics);
 
 } // namespace zem::msglib::tool

@@ -1,6 +1,6 @@
-// The rules about patterns: names, severities, explanations and examples.
-
 #include "tool/diagnostics/Rule.h"
+
+// The rules about patterns: names, severities, explanations and examples.
 
 namespace zem::msglib::tool::rules {
 
@@ -8,11 +8,11 @@ const Rule syntax = {
     "syntax",
     Severity::error,
     true,
-    "what does not compile, in any branch of any choice",
-    "The library refuses the pattern. By identifier, users read the words of the failure in\n"
-    "place of the message; with a literal pattern, they are an exception. The text of a\n"
-    "choice is compiled when it is chosen, so a mistake in it shows only then: all choices\n"
-    "are checked, reachable or not.",
+    "a pattern that does not compile, in any branch of any choice",
+    "The library refuses the pattern. For a message by identifier, users read the text of the\n"
+    "failure in place of the message; for a literal pattern, an exception is thrown. The text\n"
+    "of a choice is compiled when it is chosen, so a mistake in it shows only then. Therefore\n"
+    "all choices are checked, reachable or not.",
     "{0,number,0 EUR}",
     "{0,number,0 'E'UR}"};
 
@@ -41,11 +41,11 @@ const Rule unknownType = {
     "unknown-type",
     Severity::warning,
     true,
-    "a type that is none",
-    "Types are `number`, `date`, `time` and `choice`. They are compared as they stand:\n"
+    "a type that does not exist",
+    "Types are `number`, `date`, `time` and `choice`. They are compared exactly:\n"
     "capitals and blanks count, and `integer`, `currency`, `percent`, `short`, `medium`,\n"
-    "`long` and `full` are styles. With any other type, the argument is shown as without a\n"
-    "type, and the style is ignored.",
+    "`long` and `full` are styles. With any other type, the argument is shown as if it had\n"
+    "no type, and the style is ignored.",
     "{0,Number,0.0}",
     "{0,number,0.0}"};
 
@@ -54,8 +54,8 @@ const Rule timeStyle = {
     Severity::warning,
     true,
     "a style word that is read as a pattern",
-    "`time` has no style words, and the words of `number` and `date` are compared as they\n"
-    "stand. Any other style is a pattern: `{0,date,Short}` shows \"S12orA\".",
+    "`time` has no style words, and the words of `number` and `date` are compared\n"
+    "exactly. Any other style is a pattern: `{0,date,Short}` shows \"S12orA\".",
     "{0,time,short}",
     "{0,time,HH:mm}"};
 
@@ -63,9 +63,9 @@ const Rule indexTrailing = {
     "index-trailing",
     Severity::warning,
     true,
-    "what follows the number of an argument",
-    "An index is read up to the end of its number. What follows is ignored, up to the comma\n"
-    "or the brace.",
+    "text after the number of an argument",
+    "An index is read up to the end of its number. Text after it, up to the comma or the\n"
+    "brace, is ignored.",
     "{0:N2}",
     "{0,number,0.00}"};
 
@@ -74,7 +74,7 @@ const Rule choiceLimit = {
     Severity::warning,
     true,
     "a limit of a choice that is not wholly a number",
-    "What follows the number is ignored, and what begins with no number counts as 0.",
+    "Text after the number is ignored. A limit that does not begin with a number is 0.",
     "{0,choice,x#none|1#one}",
     "{0,choice,0#none|1#one}"};
 
@@ -83,8 +83,8 @@ const Rule choiceOrder = {
     Severity::warning,
     true,
     "limits of a choice that descend or repeat",
-    "A text serves from its limit up to the next one. Nothing sorts the limits: with others\n"
-    "than ascending ones, texts are never chosen or chosen for the wrong numbers.",
+    "A text is chosen from its limit up to the next one. The limits are not sorted: if they\n"
+    "do not ascend, some texts are never chosen, or are chosen for the wrong numbers.",
     "{0,choice,1#one|0#none}",
     "{0,choice,0#none|1#one}"};
 
@@ -115,7 +115,7 @@ const Rule quoteVanishes = {
     true,
     "apostrophes around one letter, digit or blank",
     "An apostrophe, one byte and an apostrophe quote that byte. Braces need it; around a\n"
-    "letter, a digit or a blank, the apostrophes only vanish.",
+    "letter, a digit or a blank, the apostrophes only disappear.",
     "Press 'y' to go on",
     "Press ’y’ to go on"};
 
@@ -124,7 +124,7 @@ const Rule noDigitMark = {
     Severity::warning,
     true,
     "a decimal pattern without digit marks",
-    "Without `#` and `0` there is nothing that says where digits go; they are shown after the\n"
+    "Only `#` and `0` mark where digits go. Without them, the digits are shown after the\n"
     "text. Most such patterns are misspelt style words, or formats of other languages.",
     "{0,number,N2}",
     "{0,number,#,##0.00}"};
@@ -134,8 +134,9 @@ const Rule zeroVanishes = {
     Severity::warning,
     true,
     "a decimal pattern that shows no digit for 0",
-    "`#` is a digit that is shown only if it counts for something. At least one `0` shows a\n"
-    "digit always. A placeholder is not reported inside a choice by the same argument that\n"
+    "`#` is a digit that is shown only if it is not a leading or trailing zero. At least one\n"
+    "`0` always shows a digit. A placeholder is not reported inside a choice by the same argument "
+    "that\n"
     "excludes 0.",
     "{0,number,#.##} m",
     "{0,number,0.##} m"};
@@ -153,9 +154,9 @@ const Rule decimalQuote = {"decimal-quote",
                            Severity::warning,
                            true,
                            "apostrophes around several characters of a decimal pattern",
-                           "In a decimal pattern, apostrophes quote one byte. Around more, they "
-                           "stand for themselves and are\n"
-                           "shown. Letters other than `E` need no quoting.",
+                           "In a decimal pattern, apostrophes quote one byte. Around more "
+                           "bytes, they are shown.\n"
+                           "Letters other than `E` need no quoting.",
                            "{0,number,0 'kg'}",
                            "{0,number,0 kg}"};
 
@@ -184,7 +185,8 @@ const Rule dateLetter = {
     true,
     "letters that are fields in other languages of date patterns",
     "The fields are `d` day, `M` month, `y` year, `g` era, `h` and `H` hour, `m` minute, `s`\n"
-    "second and `t` marker. All other letters are text. Between apostrophes none is a field.",
+    "second and `t` marker. All other letters are text. Letters between apostrophes are\n"
+    "never fields.",
     "{0,date,EEEE}",
     "{0,date,dddd}"};
 
@@ -192,9 +194,9 @@ const Rule dateWord = {
     "date-word",
     Severity::warning,
     true,
-    "a word in a date pattern some letters of which are fields",
-    "Letters of a word that are fields show numbers or names in its place: `de` is \"1e\" on\n"
-    "the first day of a month. Words are put between apostrophes.",
+    "a word in a date pattern with letters that are fields",
+    "Letters that are fields are replaced by numbers or names: `de` is \"1e\" on the first\n"
+    "day of a month. Put words between apostrophes.",
     "{0,date,d de MMMM}",
     "{0,date,d 'de' MMMM}"};
 
@@ -204,7 +206,7 @@ const Rule dateQuote = {
     true,
     "an apostrophe in a date pattern that is not shown",
     "An apostrophe without a partner quotes the rest of the pattern. In a message, two\n"
-    "apostrophes arrive as one.",
+    "apostrophes become one before the date pattern is read.",
     "{0,time,HH o'clock}",
     "{0,time,HH 'o’clock'}"};
 
@@ -232,7 +234,7 @@ const Rule foreignInsert = {
     true,
     "inserts of other message functions, which are text here",
     "Arguments are written in braces and counted from 0. `%1`, `%n`, `%0` and the conversions\n"
-    "of C are shown as they stand. Only the first one of each file is reported.",
+    "of C are shown unchanged. Only the first one of each file is reported.",
     "Copied %1.",
     "Copied {0}.",
     true};
@@ -241,9 +243,9 @@ const Rule unusedArgument = {
     "unused-argument",
     Severity::off,
     true,
-    "an argument that nothing uses, below the highest that is used",
-    "Often an index was mistyped, or indexes were counted from 1. Messages that leave out an\n"
-    "argument on purpose are frequent too, so this rule is off unless it is denied.",
+    "an argument that is not used, below the highest that is used",
+    "Often an index was mistyped, or indexes were counted from 1. But messages that leave out\n"
+    "an argument on purpose are frequent too, so this rule is off unless it is denied.",
     "{0} and {2}",
     "{0} and {1}"};
 
@@ -252,8 +254,8 @@ const Rule translationArguments = {
     Severity::warning,
     true,
     "a text that uses other arguments than the one in 0x409",
-    "All texts of a message are rendered with the same arguments. One that uses others, or leaves\n"
-    "one out, was probably changed alone.",
+    "All texts of a message are rendered with the same arguments. A text that uses\n"
+    "others, or leaves one out, was probably not changed together with the other texts.",
     "LanguageNames=(German=0x407:MSG00407)\n"
     "MessageId=1\n"
     "Language=English\n"

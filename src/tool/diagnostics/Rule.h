@@ -5,25 +5,25 @@
 
 namespace zem::msglib::tool {
 
-/// How much a diagnostic matters; the higher, the more.
+/// How serious a diagnostic is, in ascending order.
 enum class Severity {
     off,     ///< is not reported
     note,    ///< worth a look
     warning, ///< surely not meant
-    error,   ///< fails at run time, or leaves open what is meant; stops the build
+    error,   ///< fails at run time, or has no clear meaning; stops the build
 };
 
 /// One kind of problem that the tool reports. Rules are the constants of namespace `rules` below,
-/// and told apart by their addresses.
+/// and are compared by address.
 struct Rule {
     std::string_view name;
     Severity severity;
-    bool mayBeAllowed; ///< whether its diagnostics can be silenced: not if nothing can be compiled
-    std::string_view summary;     ///< what it fires on, in one line without a full stop
+    bool mayBeAllowed;            ///< whether its diagnostics can be silenced
+    std::string_view summary;     ///< what the rule reports, in one line without a full stop
     std::string_view explanation; ///< why that is a problem and what to write
 
-    /// Two examples, the first of which the rule fires on: patterns, or message text files of
-    /// several lines. Both are empty if they can't be written in UTF-8.
+    /// An example that the rule reports, and a correct one: patterns, or message text files of
+    /// several lines. Both are empty if they cannot be written in UTF-8.
     std::string_view wrong;
     std::string_view right;
 
@@ -33,7 +33,7 @@ struct Rule {
 /// Returns all rules, in the order in which documentation lists them.
 const std::vector<const Rule*>& allRules();
 
-/// Returns the rule of a name; null if there is none.
+/// Returns the rule with a name; null if there is none.
 const Rule* findRule(std::string_view name);
 
 namespace rules {
@@ -50,12 +50,12 @@ extern const Rule facilityClash;
 extern const Rule reservedSymbol;
 extern const Rule languageUnused;
 
-// Patterns: what fails or breaks UTF-8 at run time.
+// Patterns that fail or break UTF-8 at run time.
 extern const Rule syntax;
 extern const Rule invalidEncoding;
 extern const Rule negativeIndex;
 
-// Patterns: what surely isn't meant.
+// Patterns that are surely not meant.
 extern const Rule unknownType;
 extern const Rule timeStyle;
 extern const Rule indexTrailing;

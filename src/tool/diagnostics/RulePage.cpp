@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <string_view>
 
+// The table of rules goes in, text comes out: a list with one line for each rule, the explanation
+// of one rule, or the page of the documentation.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -12,20 +15,21 @@ namespace {
 constexpr std::string_view pageHead =
     "# Rules\n"
     "\n"
-    "What `msglib check` and every build report about message catalogues. This page is the output "
+    "The problems that `msglib check` and every build report in message catalogues. This page is "
+    "the output "
     "of\n"
     "`msglib rules --markdown`; `msglib explain-rule NAME` shows one rule.\n"
     "\n"
-    "- An **error** fails or breaks UTF-8 at run time, or leaves open what is meant. It stops the "
+    "- An **error** fails or breaks UTF-8 at run time, or has no clear meaning. It stops the "
     "build.\n"
     "- A **warning** is surely not meant.\n"
     "- A **note** is worth a look.\n"
     "\n"
-    "`--deny RULE` makes an error of a rule, `--deny warnings` of all warnings, and `--allow RULE` "
-    "leaves a\n"
-    "rule out; so do `DENY` and `ALLOW` of the CMake function. A comment before a message allows "
+    "`--deny RULE` turns a rule into an error, `--deny warnings` all warnings, and `--allow RULE` "
+    "turns a\n"
+    "rule off; so do `DENY` and `ALLOW` of the CMake function. A comment before a message allows "
     "rules in that\n"
-    "message alone:\n"
+    "message only:\n"
     "\n"
     "    ; // msglib: allow quote-vanishes\n";
 
@@ -33,7 +37,7 @@ bool isFile(std::string_view example) noexcept {
     return example.find('\n') != std::string_view::npos;
 }
 
-/// Returns a text with blanks before each line.
+/// Returns a text with `blanks` before each line.
 std::string indented(std::string_view text, std::string_view blanks) {
     std::string result;
     while (!text.empty()) {
@@ -97,7 +101,7 @@ std::string rulePage() {
                     std::string(rule->right) + '\n';
         }
         if (!rule->mayBeAllowed) {
-            page += "\nIt can't be allowed.\n";
+            page += "\nThis rule cannot be allowed.\n";
         }
     }
     return page;

@@ -9,7 +9,7 @@ namespace zem::msglib::tool {
 /// Returns one line for each rule: its name, severity and summary.
 std::string ruleList();
 
-/// Returns what a rule is about, with its examples, for a terminal.
+/// Returns the explanation of a rule, with its examples, for a terminal.
 std::string explanationOf(const Rule& rule);
 
 /// Returns the page of the documentation about all rules, in Markdown.

@@ -1,9 +1,9 @@
-// The table of all rules: names, severities and explanations. `msglib rules` and the documentation
-// are made from it.
-
 #include "tool/diagnostics/Rule.h"
 
 #include <algorithm>
+
+// The rules about files, identifiers and comments, and the list of all rules. `msglib rules` and
+// the page of the documentation are generated from these tables.
 
 namespace zem::msglib::tool {
 
@@ -13,10 +13,10 @@ const Rule fileEncoding = {
     "file-encoding",
     Severity::error,
     false,
-    "bytes that are not of the file's encoding",
-    "Message text files are read as UTF-8, or as UTF-16 where a mark or the first character shows "
-    "it.\n"
-    "Any other encoding has to be named, as in `--encoding CP1252`.",
+    "bytes that are not valid in the file's encoding",
+    "Message text files are read as UTF-8, or as UTF-16 if a byte order mark or the first "
+    "character\n"
+    "shows it. Any other encoding has to be named, as in `--encoding CP1252`.",
     "",
     ""};
 
@@ -24,7 +24,7 @@ const Rule fileSyntax = {
     "file-syntax",
     Severity::error,
     false,
-    "what the file format does not allow",
+    "text that the file format does not allow",
     "The file cannot be compiled: a keyword, name, number or list is missing or out of place, a "
     "text has no\n"
     "final \".\", or a value does not fit the bits that it has in an identifier.",
@@ -43,14 +43,14 @@ const Rule ambiguousHeader = {
     Severity::error,
     false,
     "a message head that programs read in different ways",
-    "Programs that read this format disagree in three places, so write there what is meant:\n"
+    "Programs that read this format interpret these places differently, so write what is meant:\n"
     "\n"
     "- A message without Severity or Facility, after a message with another one: some take over "
     "the last\n"
     "  one, others take Success and facility 0.\n"
     "- MessageId without a number, or with +n, in a file with several facilities: some count each "
     "facility\n"
-    "  for itself.\n"
+    "  separately.\n"
     "- Numbers that begin with 0: octal for some, decimal for others.\n"
     "- Names that differ in upper and lower case only, for different numbers.",
     "MessageId=1 Severity=Error\n"
@@ -127,7 +127,7 @@ const Rule facilityClash = {
     "two facilities with the same low 11 bits",
     "Modules are registered by the low 11 bits of the facility. Two facilities that differ in the "
     "12th bit\n"
-    "only, such as 0x012 and 0x812, stand for one and the same module.",
+    "only, such as 0x012 and 0x812, select the same module.",
     "FacilityNames=(Disk=0x012 Net=0x812)\n"
     "MessageId=1 Severity=Error Facility=Disk\n"
     "Language=English\n"
@@ -151,7 +151,7 @@ const Rule reservedSymbol = {
     "reserved-symbol",
     Severity::error,
     true,
-    "a symbolic name that C++ keeps for itself",
+    "a symbolic name that is reserved in C++",
     "A keyword of C++ cannot be the name of a constant: an error. A macro of the C library, such "
     "as EOF, and\n"
     "a name with two underscores or with an underscore and a capital at its start work until the "
@@ -192,9 +192,11 @@ const Rule argumentAnnotation = {
     "A comment `; // @arg 0 files number How many` names and describes an argument of the message\n"
     "that follows, for its typed call. The text in 0x409 has to use that argument, or a higher "
     "one.\n"
-    "The kind is `number` or `time` where the text uses the argument so; where it is only shown, "
-    "it\n"
-    "can be `text` or `any` too. The typed call follows the text where a comment contradicts it.",
+    "The kind is `number` or `time` if the text formats the argument as such. If the argument is "
+    "only\n"
+    "shown, the kind can be `text` or `any` too. If a comment contradicts the text, the typed "
+    "call\n"
+    "follows the text.",
     "; // @arg 0 files text How many\n"
     "MessageId=1\n"
     "Language=English\n"

@@ -6,6 +6,11 @@
 #include <algorithm>
 #include <string_view>
 
+// The signatures of a catalogue go in, a header with one function for each symbolic name comes out.
+// Each function has a comment with its text and parameters, an overload for the right number of
+// arguments, which checks their types, and an overload for any other number, which never compiles.
+// Texts and descriptions are written so that they cannot end the comment.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -14,7 +19,7 @@ constexpr std::size_t usualFunctionSize = 1536;
 
 constexpr const char* streamType = "::zem::msglib::MessageFormatStream";
 
-/// How a kind is called in the header that is included, and in the words of an error.
+/// The names of a kind: in the included header, and in error messages.
 struct KindNames {
     const char* type;
     const char* words;
@@ -44,7 +49,7 @@ std::string nameOf(const Parameter& parameter, std::size_t index) {
                                   : std::string(parameter.name);
 }
 
-/// Returns the items that `itemAt` makes of the indexes up to `count`, with commas between them.
+/// Returns the results of `itemAt` for all indexes below `count`, separated by commas.
 template <class ItemAt>
 std::string list(std::size_t count, ItemAt itemAt) {
     std::string out;
@@ -54,8 +59,8 @@ std::string list(std::size_t count, ItemAt itemAt) {
     return out;
 }
 
-/// Tells whether a character changes how compilers or editors read the line of a comment that it
-/// stands in: control characters, and those that change the direction of writing.
+/// Returns whether a character in a comment changes how compilers or editors read its line: control
+/// characters, and characters that change the direction of writing.
 bool isInvisible(char32_t character) {
     return (character < 0x20 && character != '\t') || (character >= 0x7F && character <= 0x9F) ||
            (character >= 0x200E && character <= 0x200F) ||
@@ -63,7 +68,8 @@ bool isInvisible(char32_t character) {
            (character >= 0x2066 && character <= 0x2069);
 }
 
-/// Appends a line of a comment, in which nothing is left that could end it or go on beyond it.
+/// Appends a line of a comment, without characters that could end the line or continue the comment
+/// on the next one.
 void appendComment(std::string& out, std::string_view line) {
     out += "///";
     out += line.empty() ? "" : " ";
@@ -76,7 +82,7 @@ void appendComment(std::string& out, std::string_view line) {
             out += before.substr(0, before.size() - line.size());
         }
     }
-    // A backslash before the line's end would take the next line into the comment.
+    // A backslash at the end would make the next line a part of the comment.
     const std::size_t last = out.find_last_not_of(" \t");
     out.erase(last + 1);
     out += out.back() == '\\' ? " <line end>\n" : "\n";
@@ -92,7 +98,7 @@ void appendText(std::string& out, std::string_view text) {
 
 void appendDocumentation(std::string& out, const CallSignature& signature) {
     if (!signature.refusal.empty()) {
-        appendComment(out, "Not to be called: it " + signature.refusal + ".");
+        appendComment(out, "Not callable: the message " + signature.refusal + ".");
         return;
     }
     appendText(out, signature.text);
@@ -111,8 +117,7 @@ void appendDocumentation(std::string& out, const CallSignature& signature) {
     }
 }
 
-/// Returns what the arguments of a call have to be: "2 arguments: files (a number), folder (a
-/// text)".
+/// Returns the required arguments of a call: "2 arguments: files (a number), folder (a text)".
 std::string demand(const std::vector<Parameter>& parameters) {
     const std::size_t count = parameters.size();
     const std::string counted = (count == 0 ? "no" : std::to_string(count)) +
@@ -169,7 +174,7 @@ void appendCall(std::string& out, const std::string& qualified, const CallSignat
     out += ");\n}\n";
 }
 
-/// Appends the overload that is left for calls that are wrong.
+/// Appends the overload for wrong calls, which never compiles.
 void appendRefusal(std::string& out, const CallSignature& signature, const std::string& condition,
                    const std::string& words) {
     const std::string symbol(signature.symbol);

@@ -8,11 +8,15 @@
 #include <set>
 #include <string_view>
 
+// The names of a catalogue, its messages and tables go in, the texts of generated files come out: a
+// header, a source and a resource script. The source contains each table as a note in assembler,
+// and the function that registers the facilities.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-// In an embedded note, language and size stand before the table, and padding to a multiple of 8
+// In an embedded note, language and size come before the table, and padding to a multiple of 8
 // after it.
 constexpr std::size_t tableHeaderSize = 8;
 constexpr std::size_t alignment = 8;
@@ -24,8 +28,9 @@ bool isAsciiWord(char32_t character) {
            (character >= '0' && character <= '9');
 }
 
-/// Tells whether a character is a letter that every compiler takes in the name of a function: from
-/// the alphabets that can be told by their blocks. Others separate words, like punctuation.
+/// Returns whether a character is a letter that every compiler accepts in the name of a function.
+/// Only alphabets with Unicode blocks of their own are known. Other characters separate words, like
+/// punctuation.
 bool isForeignLetter(char32_t character) {
     static constexpr struct {
         char32_t first;
@@ -57,7 +62,7 @@ std::string camelCase(std::string_view name) {
     return result.empty() ? "Messages" : result;
 }
 
-/// Returns `name`, or a longer one if it begins with a digit.
+/// Returns `name`, with a prefix if it begins with a digit.
 std::string namespaceName(const std::string& name) {
     return (std::isdigit(static_cast<unsigned char>(name.front())) != 0 ? "Messages" : "") + name;
 }
@@ -78,9 +83,9 @@ bool isPlain(char byte) {
     return isAsciiWord(static_cast<unsigned char>(byte)) || byte == ' ';
 }
 
-/// Appends bytes as a string literal of the assembler, in which letters, digits and blanks stand
-/// for themselves, so that no text ends the literal of C++ around it. The others are octal numbers,
-/// of three digits where another digit follows.
+/// Appends bytes as a string literal of the assembler. Letters, digits and blanks are written as
+/// they are, all other bytes as octal numbers, so no text can end the C++ literal around it. Octal
+/// numbers have three digits if another digit follows.
 void appendLiteral(std::string& out, std::string_view bytes) {
     out += '"';
     for (std::size_t index = 0; index < bytes.size(); ++index) {
@@ -110,12 +115,12 @@ void appendBytes(std::string& out, std::string_view bytes) {
     }
 }
 
-/// Appends the assembler block with the note of one language. Its numbers are in the byte order of
-/// the machine, the table's bytes are as they are.
+/// Appends the assembler block with the note of one language. Its numbers have the byte order of
+/// the machine; the bytes of the table are not changed.
 void appendNote(std::string& out, std::uint32_t language, const std::string& table) {
     const std::size_t padded =
         (tableHeaderSize + table.size() + alignment - 1) / alignment * alignment;
-    out.reserve(out.size() + 2 * table.size()); // half of the bytes take three or four characters
+    out.reserve(out.size() + 2 * table.size()); // half of the bytes need three or four characters
     out += "asm(R\"asm(\n"
            "    .pushsection .note.zem.msgtab, \"a\", %note\n"
            "    .balign 8\n"
@@ -198,7 +203,7 @@ std::string tableFileName(std::uint32_t language) {
 }
 
 std::string resourceText(const Tables& tables) {
-    // A module has its message table as resource 1 of type 11.
+    // The message table of a module is resource 1 of type 11.
     std::string out;
     for (const auto& [language, table] : tables) {
         out += "LANGUAGE " + std::to_string(language & 0x3FF) + ", " +

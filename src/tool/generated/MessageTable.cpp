@@ -6,6 +6,10 @@
 #include <string_view>
 #include <utility>
 
+// Catalogues go in, one table for each language comes out: the number of blocks, the blocks, and
+// the entries. The texts of a language are sorted by identifier. A block is a run of consecutive
+// identifiers of limited length. An entry has a header, the text as UTF-16 and a terminator.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -15,7 +19,7 @@ constexpr std::size_t blockSize = 12;
 constexpr std::size_t entryAlignment = 4;
 constexpr std::uint32_t utf16Flag = 1;
 
-/// A run of consecutive identifiers, and where the first of their entries begins.
+/// A run of consecutive identifiers, and the offset of the first entry.
 struct Block {
     std::uint32_t lowest;
     std::uint32_t highest;
@@ -47,7 +51,7 @@ void appendText(std::string& bytes, std::string_view text) {
 
 void appendEntry(std::string& bytes, std::string_view text) {
     const std::size_t begin = bytes.size();
-    append(bytes, 0, 2); // the length, which follows from the text
+    append(bytes, 0, 2); // the length, written below
     append(bytes, utf16Flag, 2);
     appendText(bytes, text);
     append(bytes, 0, 2);

@@ -8,6 +8,9 @@
 #include <fstream>
 #include <system_error>
 
+// Names and bytes go in, files come out. First, each changed file is written beside its place. Only
+// if that succeeds for all of them, each is moved to its place. Unchanged files are not touched.
+
 namespace zem::msglib::tool {
 
 namespace fs = std::filesystem;
@@ -24,7 +27,7 @@ bool hasBytes(const fs::path& path, const std::string& bytes) {
            readBytes(path.string()) == bytes;
 }
 
-/// Writes a whole file or none.
+/// Writes a file completely, or removes it.
 void writeBytes(const fs::path& path, const std::string& bytes) {
     std::FILE* const file = std::fopen(path.string().c_str(), "wb");
     bool isWritten =
@@ -41,7 +44,7 @@ void writeBytes(const fs::path& path, const std::string& bytes) {
     }
 }
 
-/// A file beside its place, which is removed unless it has been moved there.
+/// A temporary file beside its place. It is removed unless it was moved to its place.
 class PendingFile {
 public:
     PendingFile(const fs::path& place, const std::string& bytes) : place_(place), beside_(place) {

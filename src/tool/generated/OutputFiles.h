@@ -7,13 +7,12 @@
 
 namespace zem::msglib::tool {
 
-/// Files that are written together: each of them whole, and none if one of them cannot be.
+/// Files that are written together: all of them completely, or none if one cannot be written.
 ///
-/// A file that has the same bytes already is not touched, so that what depends on it is not built
-/// again.
+/// A file that already has the same bytes is not touched, so its dependents are not built again.
 class OutputFiles {
 public:
-    /// @param folder  made if there is none
+    /// @param folder  created if it does not exist
     explicit OutputFiles(std::filesystem::path folder);
 
     /// Adds a file.

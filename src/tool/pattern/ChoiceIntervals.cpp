@@ -38,12 +38,12 @@ double NumberInterval::sample() const noexcept {
     return *low;
 }
 
-// The library takes an entry in place of the one before unless the value lies below its limit, and
-// stays with an entry that it does not leave.
+// The library starts at the first entry. It continues to the next entry unless the value is below
+// the limit of that one, where it stops.
 std::vector<ChoiceInterval> intervalsOf(const Placeholder& choice) {
     const auto& entries = choice.entries;
     std::vector<ChoiceInterval> intervals;
-    std::size_t highest = 0; // entry so far
+    std::size_t highest = 0; // entry with the highest limit so far
     for (std::size_t number = 0; number < entries.size(); ++number) {
         highest = entries[number].limit > entries[highest].limit ? number : highest;
         ChoiceInterval interval{{entries[highest].limit}, highest, number + 1};

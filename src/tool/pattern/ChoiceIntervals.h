@@ -8,7 +8,8 @@
 
 namespace zem::msglib::tool {
 
-/// The numbers from `low` on and below `high`; without a bound, there is no end on that side.
+/// The numbers that are at least `low` and below `high`. A missing bound means no limit on that
+/// side.
 struct NumberInterval {
     std::optional<double> low = std::nullopt;
     std::optional<double> high = std::nullopt;
@@ -18,22 +19,23 @@ struct NumberInterval {
         return (!low || value >= *low) && (!high || value < *high);
     }
 
-    /// Returns the numbers that are in both.
+    /// Returns the numbers that are in both intervals.
     NumberInterval within(const NumberInterval& other) const noexcept;
 
-    /// Returns one of its numbers, with as few decimals as possible. The interval is not empty.
+    /// Returns one of its numbers, with as few decimals as possible. The interval must not be
+    /// empty.
     double sample() const noexcept;
 };
 
-/// The numbers that a choice's entry serves.
+/// The numbers for which an entry of a choice is chosen.
 struct ChoiceInterval {
     NumberInterval numbers; ///< empty for an entry that is never chosen
     std::size_t low;        ///< the number of the entry whose limit is the lower bound
-    std::size_t high;       ///< the same of the upper bound, if there is one
+    std::size_t high;       ///< the number of the entry whose limit is the upper bound, if any
 };
 
-/// Returns the interval of each entry: up to the limit of the next one, and from the highest limit
-/// so far on, whether limits ascend or not. The first entry serves everything below its limit too.
+/// Returns the interval of each entry: from the highest limit so far up to the limit of the next
+/// entry, whether limits ascend or not. The first entry is also chosen for all lower numbers.
 std::vector<ChoiceInterval> intervalsOf(const Placeholder& choice);
 
 /// Returns the limit of an entry as written: the number before its separator.

@@ -1,6 +1,3 @@
-// Reads a pattern by the readers of the library, text by text. The texts of choices are queued
-// after those that are there, so that the nesting of a pattern is not that of calls.
-
 #include "tool/pattern/PatternTree.h"
 
 #include "base/BraceIndex.h"
@@ -15,16 +12,21 @@
 #include <stdexcept>
 #include <utility>
 
+// A pattern goes in, a list of texts comes out, read by the library's own readers. A text is split
+// into static pieces and placeholders, and a choice into its entries. The texts of the entries are
+// appended to the list and read later. So the machine stack does not grow with the nesting of a
+// pattern.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-// From as many choices in one another on, an index of braces pays.
+// From this number of nested choices on, an index of braces saves time.
 constexpr std::size_t fewLevels = 8;
 
 using Kind = SyntaxError::Kind;
 
-/// Tells whether the library takes a style for a pattern of its type rather than for a word.
+/// Returns whether the library reads a style as a pattern of its type and not as a style word.
 bool isCustom(std::string_view type, const PlaceholderStyle& style) noexcept {
     return style.build == PlaceholderStyle::of(type, "*").build;
 }
@@ -43,15 +45,16 @@ PlaceholderKind kindOf(std::string_view type, std::string_view style) noexcept {
     return isCustom(type, formatter) ? PlaceholderKind::DateStyle : PlaceholderKind::Date;
 }
 
-/// Finds the characters that apostrophes in a choice make disappear: a reader leaves out the
-/// apostrophes that it resolves, and with them a third byte, which should be an apostrophe too.
+/// Finds the characters that apostrophes in a choice make disappear. A reader leaves out an
+/// apostrophe, hands out the byte after it, and leaves out the next byte. That one should be an
+/// apostrophe too.
 class DropFinder {
 public:
     DropFinder(const TracedText& style, std::size_t position) noexcept
         : style_(style),
           end_(position) {}
 
-    /// Notes the next piece of a choice's text.
+    /// Receives the next piece of the text of a choice.
     void operator()(std::string_view piece, std::vector<DroppedCharacter>& found) {
         const std::string_view text = style_.text();
         const auto begin = static_cast<std::size_t>(piece.data() - text.data());
@@ -68,7 +71,7 @@ public:
 
 private:
     const TracedText& style_;
-    std::size_t end_; // of the piece before
+    std::size_t end_; // of the previous piece
 };
 
 class TreeReader {
@@ -83,7 +86,7 @@ public:
         }
         number_ = number;
         PlaceholderReader reader(text.text.text(), text.braces.get());
-        // The reader stands at the apostrophe before a quoted byte when it hands it out.
+        // When the reader hands out a quoted byte, its position is at the apostrophe before it.
         const auto keep = [&text, &reader](std::string_view piece) {
             const std::string_view rest = reader.from(reader.position());
             text.pieces.push_back({piece, piece.data() == rest.data() + 1});
@@ -162,7 +165,7 @@ private:
         }
     }
 
-    /// Makes the formatter that the library would make.
+    /// Compiles the style as the library does, to find its errors.
     static void compile(PatternText& text, const Placeholder& placeholder) {
         FormatElement element;
         element.type_ = placeholder.type.text();
@@ -176,15 +179,15 @@ private:
         }
     }
 
-    static void addStyleError(PatternText& text, const Placeholder& placeholder, const char* words,
-                              std::size_t position) {
+    static void addStyleError(PatternText& text, const Placeholder& placeholder,
+                              const char* message, std::size_t position) {
         const TracedText& style = placeholder.style;
         const bool isChoice = placeholder.kind == PlaceholderKind::Choice;
         Place place = style.size() == 0 ? placeholder.whole : style.place();
         if (position < style.size()) {
             place = style.place(position, position + 1);
         }
-        text.errors.push_back({isChoice ? Kind::ChoiceStyle : Kind::DecimalStyle, words, place,
+        text.errors.push_back({isChoice ? Kind::ChoiceStyle : Kind::DecimalStyle, message, place,
                                placeholder.whole, style, position});
     }
 

@@ -1,24 +1,26 @@
-// Spellings grow from left to right. Of those that show the same and to which the same can be added, the shortest is
-// kept, which the library tells too: by what it shows once different numbers of apostrophes follow. Where the shortest of
-// all is one to which everything can be added, as to an empty one, the search begins anew after it. So it takes linear
-// time, and each trial is short.
-
 #include "tool/pattern/Quoter.h"
 
 #include "tool/text/Unicode.h"
 
 #include <algorithm>
 
+// A text goes in, a spelling comes out. Spellings grow from left to right, one character at a time.
+// Two spellings are equivalent if they show the same text and the same characters can follow. The
+// library decides that too, by what it shows if different numbers of apostrophes follow. Only the
+// shortest of equivalent spellings is kept. If the shortest one of all can be followed by
+// everything, like an empty one, it is settled, and the search starts again after it. So the time
+// is linear, and each trial is short.
+
 namespace zem::msglib::tool {
 
 namespace {
 
 constexpr std::size_t mostApostrophes = 64;
-constexpr std::size_t alwaysTried = 6;     // apostrophes, whatever has been learned
-constexpr std::size_t solutions = 3;       // that are learned of each kind
-constexpr std::size_t longestSearch = 512; // bytes of a text between two places to begin anew
+constexpr std::size_t alwaysTried = 6;     // apostrophes, also if they were not learned
+constexpr std::size_t solutions = 3;       // learned of each kind
+constexpr std::size_t longestSearch = 512; // bytes of a text that are not settled
 constexpr std::size_t longestThorough = 40;
-constexpr std::size_t mostSpellings = 16; // that are kept at a time
+constexpr std::size_t mostSpellings = 16; // kept at a time
 
 constexpr std::string_view plain = "abc"; // means nothing at any place
 
@@ -32,7 +34,7 @@ std::string between(std::string_view text, std::size_t count) {
 
 } // namespace
 
-/// A spelling of the characters so far, and what they are.
+/// A spelling, and the text that it shows.
 struct Quoter::Spelling {
     std::string spelling;
     std::string text;
@@ -59,7 +61,7 @@ Quoter::Quoter(TextPlace place, std::size_t depth) : trial_(place, depth) {
     counts_.erase(std::unique(counts_.begin(), counts_.end()), counts_.end());
 }
 
-/// Learns how many apostrophes show one between two texts.
+/// Learns which numbers of apostrophes between two texts show one apostrophe.
 void Quoter::learnApostrophe(std::string_view before, std::string_view after,
                              std::string_view shownBefore, std::string_view shownAfter) {
     std::size_t found = 0;
@@ -75,8 +77,8 @@ void Quoter::learnApostrophe(std::string_view before, std::string_view after,
     }
 }
 
-/// Learns how many apostrophes around each of two characters show them, and returns the least such
-/// number; 0 if there is none, or if they need none.
+/// Learns which numbers of apostrophes around each of two characters show the characters. Returns
+/// the least such number; 0 if there is none, or if no apostrophes are needed.
 std::size_t Quoter::learnPair(std::string_view one, std::string_view other) {
     std::size_t least = 0;
     std::size_t found = 0;
@@ -96,7 +98,7 @@ std::size_t Quoter::learnPair(std::string_view one, std::string_view other) {
     return least;
 }
 
-/// Returns a spelling with an end, and with the braces that it lacks before and after it.
+/// Returns a spelling with an end, and with its missing braces before and after it.
 std::string Quoter::framed(const Spelling& spelling, std::string_view end) {
     std::string result;
     for (const std::string& brace : spelling.before) {
@@ -109,7 +111,7 @@ std::string Quoter::framed(const Spelling& spelling, std::string_view end) {
     return result;
 }
 
-/// Returns what is to be shown for a spelling that is framed.
+/// Returns the text that a framed spelling has to show.
 std::string Quoter::framedText(const Spelling& spelling, std::string_view end) {
     return repeated("{" + std::string(plain), spelling.before.size()) + spelling.text +
            std::string(end) + textAfter(spelling);
@@ -119,7 +121,8 @@ std::string Quoter::textAfter(const Spelling& spelling) {
     return repeated("}" + std::string(plain), spelling.after.size());
 }
 
-/// Returns what is shown if apostrophes follow, apart from the text so far.
+/// Returns what the library shows after the text if different numbers of apostrophes follow the
+/// spelling. Equivalent spellings have the same signature.
 std::string Quoter::signatureOf(const Spelling& spelling) const {
     const std::string expected = framedText(spelling, "");
     const auto end = expected.end() - static_cast<std::ptrdiff_t>(textAfter(spelling).size());
@@ -134,12 +137,12 @@ std::string Quoter::signatureOf(const Spelling& spelling) const {
     return signature;
 }
 
-/// Tells whether everything can follow a spelling that can follow an empty one.
+/// Returns whether the same characters can follow a spelling as can follow an empty one.
 bool Quoter::isSettled(const Spelling& spelling, const std::string& signature) const {
     return signature == signatureOf({{}, {}, spelling.before, spelling.after});
 }
 
-/// Adds a spelling if its text is shown where plain characters follow.
+/// Adds a spelling if it shows its text with plain characters after it.
 bool Quoter::tryOne(Spelling longer, Spellings& found) const {
     if (!trial_.showsAtEnd(framed(longer, plain), framedText(longer, plain))) {
         return false;
@@ -151,7 +154,7 @@ bool Quoter::tryOne(Spelling longer, Spellings& found) const {
     return true;
 }
 
-/// Notes which brace has to be there for one more, spelled alike.
+/// Records the brace that has to match one more brace, with the same spelling.
 void Quoter::addPartner(Spelling& spelling, char brace, std::size_t before, std::size_t after) {
     const auto among = [&](char other) { return apostrophes(before) + other + apostrophes(after); };
     if (brace == '{') {
@@ -163,7 +166,7 @@ void Quoter::addPartner(Spelling& spelling, char brace, std::size_t before, std:
     }
 }
 
-/// Adds the spellings with one more character, which is among apostrophes.
+/// Adds the spellings with one more character between apostrophes.
 bool Quoter::addAll(const Spelling& spelling, std::string_view character, bool withPartner,
                     Spellings& found) const {
     const bool isApostrophe = character == "'";
@@ -186,17 +189,17 @@ bool Quoter::addAll(const Spelling& spelling, std::string_view character, bool w
     return isShown;
 }
 
-/// Adds the spellings with one more character: as it is, or else among apostrophes, or else with a
-/// brace that matches it.
+/// Adds the spellings with one more character: as it is; if that fails, between apostrophes; if
+/// that fails too, with a matching brace.
 void Quoter::extend(const Spelling& spelling, std::string_view character, bool isThorough,
                     Spellings& longer) const {
     Spelling asItIs = spelling;
     asItIs.spelling += character;
     asItIs.text += character;
     const bool isApostrophe = character == "'";
-    const bool isDate = trial_.place() == TextPlace::date; // in which letters mean fields
+    const bool isDate = trial_.place() == TextPlace::date; // letters are fields there
     if (!isThorough && !isDate && !isApostrophe && tryOne(std::move(asItIs), longer)) {
-        return; // quoting what needs none serves others beside it, but seldom
+        return; // needless quotes seldom help the characters beside it
     }
     const bool isBrace = character == "{" || character == "}";
     if ((!addAll(spelling, character, false, longer) || isThorough) && isBrace) {
@@ -204,8 +207,8 @@ void Quoter::extend(const Spelling& spelling, std::string_view character, bool i
     }
 }
 
-/// Makes spellings with one more character of those without it, the shortest first; of one to which
-/// everything can be added, it makes a settled part and an empty spelling.
+/// Returns the spellings with one more character, the shortest first. If that one is settled, it is
+/// moved to `settled`, and an empty spelling is returned.
 std::vector<Quoter::Spelling> Quoter::withCharacter(const std::vector<Spelling>& spellings,
                                                     std::string_view character, bool isThorough,
                                                     std::string& settled) const {
@@ -246,7 +249,7 @@ std::optional<std::string> Quoter::search(std::string_view text, bool isThorough
     }
     std::vector<std::string> whole;
     for (const Spelling& spelling : spellings) {
-        for (const std::size_t count : counts_) { // which may end what is quoted
+        for (const std::size_t count : counts_) { // they may end quoted text
             whole.push_back(settled + spelling.spelling + apostrophes(count));
         }
     }

@@ -11,23 +11,23 @@
 
 namespace zem::msglib::tool {
 
-/// Finds how to write texts at one place of a pattern so that they appear as they are, by asking the
+/// Finds spellings with which texts appear unchanged at one place of a pattern, by asking the
 /// library what different spellings show.
 ///
-/// It knows nothing of the rules of quoting: it puts apostrophes around and between the characters,
-/// in such numbers as have shown single characters before.
+/// It does not know the rules of quoting. It puts apostrophes around and between the characters, in
+/// numbers that showed single characters before.
 class Quoter {
 public:
     /// @param place  of the text
-    /// @param depth  in how many choices it is
+    /// @param depth  the number of choices around it
     Quoter(TextPlace place, std::size_t depth);
 
-    /// Returns a short spelling that shows the text wherever it may stand at the place; nothing if
-    /// none was found.
+    /// Returns a short spelling that shows the text with any other text before and after it;
+    /// nothing if none was found.
     ///
-    /// There may be one all the same: where braces do not match inside a choice or a style, by tricks
-    /// that nobody would read, and where apostrophes or braces go on for hundreds of bytes. It takes
-    /// time in proportion to the length of the text.
+    /// Some spellings are not found: of unmatched braces inside a choice or a style, which need
+    /// unreadable tricks, and of hundreds of apostrophes or braces without other text. The time is
+    /// linear in the length of the text.
     ///
     /// @param text  valid UTF-8
     std::optional<std::string> quote(std::string_view text) const;
@@ -35,7 +35,7 @@ public:
 private:
     struct Spelling;
     using Partners = std::vector<std::string>;
-    using Spellings = std::map<std::string, Spelling>; ///< by what may follow, the shortest of each
+    using Spellings = std::map<std::string, Spelling>; ///< the shortest of each signature
 
     void learnApostrophe(std::string_view before, std::string_view after,
                          std::string_view shownBefore, std::string_view shownAfter);
@@ -57,8 +57,8 @@ private:
     bool isSettled(const Spelling& spelling, const std::string& signature) const;
 
     TextTrial trial_;
-    std::vector<std::size_t> counts_; ///< of apostrophes that have shown something, ascending
-    std::size_t aroundText_ = 0;      ///< how many quote a text of several characters
+    std::vector<std::size_t> counts_; ///< numbers of apostrophes to try, ascending
+    std::size_t aroundText_ = 0;      ///< the number that quotes several characters
 };
 
 } // namespace zem::msglib::tool

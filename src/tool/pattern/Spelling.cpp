@@ -9,13 +9,13 @@ namespace zem::msglib::tool {
 namespace {
 
 constexpr std::size_t mostApostrophes = 64;
-constexpr std::size_t levels = 8; // deeper inside, even more would be needed
+constexpr std::size_t levels = 8; // deeper texts need too many
 
-/// How many apostrophes are needed inside as many choices as the position says.
+/// The numbers of apostrophes that are needed, by the number of choices around them.
 using Counts = std::array<std::size_t, levels>;
 
-/// Finds for each depth the least number of apostrophes that, in place of each of those in `text`,
-/// show `wanted`.
+/// Returns for each depth the least number of apostrophes that shows `wanted` if it replaces each
+/// apostrophe in `text`; 0 if there is none.
 Counts tryCounts(const std::string& text, const std::string& wanted) {
     Counts counts{};
     for (std::size_t depth = 0; depth < levels; ++depth) {

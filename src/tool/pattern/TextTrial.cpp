@@ -8,18 +8,23 @@
 #include <list>
 #include <stdexcept>
 
+// A spelling and a text go in, the answer whether the spelling shows the text comes out. Frames put
+// other text, placeholders, digits or choices around the spelling. Each frame is rendered by the
+// library and compared with the expected text.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-// What a trial that fails is said to show; no other text has such a byte.
+// The result of a trial that fails. No other text has this byte.
 constexpr const char* failed = "\xFF";
 
-// What chooses, and what decimal and date styles show: a number that differs from itself in each form.
+// The argument that chooses, and the argument that decimal and date styles show. Every style shows
+// the latter differently.
 constexpr int choosing = 0;
 constexpr int number = 1234;
 
-/// Returns what a message shows.
+/// Returns the text that a message shows.
 std::string shownBy(const std::string& pattern) {
     std::string result;
     try {

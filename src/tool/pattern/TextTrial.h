@@ -8,14 +8,14 @@
 
 namespace zem::msglib::tool {
 
-/// Where a text can stand in a pattern: in the text of a message, or in a style.
+/// The places of text in a pattern: the text of a message, or a style.
 enum class TextPlace : std::uint8_t { message, number, date };
 
-/// Returns a text as many times as `count`.
+/// Returns a text `count` times.
 std::string repeated(std::string_view text, std::size_t count);
 
-/// Returns what a message pattern shows inside as many choices, which pick their first text, with a
-/// number for its arguments; empty if it fails.
+/// Returns what a message pattern shows inside `depth` choices. The choices choose their first
+/// text, and the arguments are numbers. Empty if rendering fails.
 std::string shownInside(std::size_t depth, const std::string& pattern);
 
 /// Asks the library what spellings of a text show at one place inside a number of choices.
@@ -25,19 +25,19 @@ public:
 
     TextPlace place() const noexcept { return place_; }
 
-    /// Tells whether a spelling shows a text wherever it may stand there: with and without other
-    /// text, placeholders, digits, fields or choices before and after it.
+    /// Returns whether a spelling shows a text in every context: with and without other text,
+    /// placeholders, digits, fields or choices before and after it.
     bool showsEverywhere(std::string_view spelling, std::string_view text) const;
 
-    /// Tells whether a spelling shows a text after other text, at the end of what is written there.
+    /// Returns whether a spelling shows a text after other text, at the end of the place.
     bool showsAtEnd(std::string_view spelling, std::string_view text) const;
 
-    /// Returns what a spelling shows there, as far as it can be told from what is around it; a text
-    /// that nothing shows if it fails.
+    /// Returns what a spelling shows there, without the text around it. If rendering fails, returns
+    /// a text that no spelling shows.
     std::string shownAtEnd(std::string_view spelling) const;
 
 private:
-    /// What is around a spelling: in the pattern, and in what is shown.
+    /// The text around a spelling, in the pattern and in the shown text.
     struct Frame {
         std::string before;
         std::string after;

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+// A text is either a part of the source file, or joined from pieces. A joined text has a list of
+// runs, each with its position in the text and its offset in the file. Places are found in this
+// list by bisection. `TextTracer` starts to join only at the second piece.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -72,7 +76,7 @@ std::size_t TracedText::find(std::size_t offset) const {
     const Run& run = *std::prev(next);
     std::size_t found = run.position + (offset - run.offset);
     if (next != joined_->runs.end()) {
-        found = std::min(found, next->position); // what is between two runs is in neither
+        found = std::min(found, next->position); // bytes between two runs are in neither
     }
     return found - positionInJoined();
 }

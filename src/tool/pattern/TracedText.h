@@ -10,8 +10,8 @@
 
 namespace zem::msglib::tool {
 
-/// A text as the library's readers hand it out, which knows where in the source file each of its
-/// bytes is. It is a part of the file, or joined from parts where quoting was resolved.
+/// A text from the library's readers, with the place of each of its bytes in the source file. It is
+/// a part of the file, or joined from several parts if quoting was resolved.
 ///
 /// A copy is cheap and shares the joined text. The file must outlive it.
 class TracedText {
@@ -28,14 +28,14 @@ public:
     /// @param part  a view into `text()`
     TracedText part(std::string_view part) const;
 
-    /// Returns where the bytes from `begin` to `end` of this text are in the file, from the first
-    /// character to the last. It takes logarithmic time.
+    /// Returns the place of the bytes from `begin` to `end` of this text in the file, from the
+    /// first character to the last, in logarithmic time.
     Place place(std::size_t begin, std::size_t end) const;
 
-    /// Returns where a view into `text()` is in the file.
+    /// Returns the place of a view into `text()` in the file.
     Place placeOf(std::string_view part) const;
 
-    /// Returns where the whole text is in the file.
+    /// Returns the place of the whole text in the file.
     Place place() const { return place(0, size()); }
 
     /// Returns the position of the first byte that is at `offset` of the file or after it; the size
@@ -62,11 +62,11 @@ private:
     std::shared_ptr<const Joined> joined_; // null for a part of the file
 };
 
-/// A sink for the library's readers, which joins the pieces of a text and traces them.
+/// A sink for the library's readers that joins the pieces of a text and keeps their places.
 class TextTracer {
 public:
     /// @param source    the text that is read; all pieces must be views into it
-    /// @param position  where reading begins, which is the place of an empty text
+    /// @param position  where reading begins; the place of an empty text
     TextTracer(const TracedText& source, std::size_t position)
         : source_(source),
           first_(source.text().substr(position, 0)) {}
@@ -80,7 +80,7 @@ private:
     void join(std::string_view piece);
 
     const TracedText& source_;
-    std::string_view first_; // as long as there is one piece alone
+    std::string_view first_; // the piece, while there is only one
     std::shared_ptr<TracedText::Joined> joined_;
 };
 

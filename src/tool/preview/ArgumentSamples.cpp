@@ -7,6 +7,10 @@
 #include <string>
 #include <string_view>
 
+// A pattern tree goes in, values for each argument come out. First, the uses of each argument in
+// all placeholders are collected, with the limits of its choices. Then the cases are chosen, one
+// for each interval between limits, and the values that show what the formats of the argument do.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -16,7 +20,7 @@ constexpr double numbers[] = {1234.567, 0, 1, -1, quarter, 1234567};
 constexpr double counts[] = {7, 0, 1, -1, 1234567, 1234.5};
 constexpr std::int64_t times[] = {1795424707, 1767540600}; // 2026-11-23T09:05:07, 2026-01-04T15:30
 
-/// How all placeholders of one argument use it.
+/// The uses of one argument in all placeholders.
 struct Use {
     bool isPlain = false;
     bool isNumber = false;
@@ -53,7 +57,8 @@ std::vector<Use> usesOf(const PatternTree& tree) {
     std::vector<Use> uses;
     for (const PatternText& text : tree.texts()) {
         for (const Placeholder& placeholder : text.placeholders) {
-            const auto index = static_cast<std::size_t>(placeholder.index); // huge if negative
+            const auto index =
+                static_cast<std::size_t>(placeholder.index); // a negative index becomes a huge one
             if (index < mostSampledArguments) {
                 uses.resize(std::max(uses.size(), index + 1));
                 add(uses[index], placeholder);
@@ -106,7 +111,7 @@ Sample textSample(std::string_view text) {
     return {textArgument(text), std::numeric_limits<double>::quiet_NaN()};
 }
 
-/// Adds values for an argument that is shown by its own kind, and used in no other way.
+/// Adds values for an argument that is only used without a type.
 void addPlain(std::size_t index, const Parameter& parameter, ArgumentSamples& samples) {
     const bool isAny = parameter.kind == ValueKind::any;
     if (isAny || parameter.kind == ValueKind::text) {
@@ -133,7 +138,7 @@ ArgumentSamples samplesOf(Use& use, std::size_t index, const Parameter& paramete
         }
     }
     const bool isDecided = !use.limits.empty() || use.isTime;
-    if (use.isPercentage) { // the first value goes with those of other arguments
+    if (use.isPercentage) { // the first value appears with the values of other arguments
         samples.values.push_back(numberSample(quarter));
     }
     if (use.isNumber) {
@@ -143,7 +148,7 @@ ArgumentSamples samplesOf(Use& use, std::size_t index, const Parameter& paramete
     } else if (use.isPlain && !isDecided) {
         addPlain(index, parameter, samples);
     }
-    if (samples.values.empty()) { // of an argument that nothing uses
+    if (samples.values.empty()) { // the argument is not used
         samples.values.push_back(textSample("unused"));
     }
     return samples;

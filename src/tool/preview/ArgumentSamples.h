@@ -12,28 +12,28 @@ namespace zem::msglib::tool {
 /// A value for an argument.
 struct Sample {
     WrittenArgument argument;
-    double number; ///< as a choice reads it; NaN if it is a text
+    double number; ///< the value as a choice reads it; NaN for a text
 };
 
-/// Values for one argument that show what it can make of a message.
+/// Values for one argument that show its effects on a message.
 struct ArgumentSamples {
-    /// One for each interval between the limits of all choices that the argument decides; empty if
-    /// it decides none.
+    /// One value for each interval between the limits of all choices by this argument; empty if
+    /// there are none.
     std::vector<Sample> cases;
 
-    /// At least one. They follow from how the argument is shown: numbers that are negative, zero,
-    /// one, large or have decimals, those at, between and around the limits, times before and after
-    /// noon, a text.
+    /// At least one value. They depend on how the argument is shown: negative, zero, one, large and
+    /// fractional numbers; numbers at, between and around the limits; times before and after noon;
+    /// a text.
     std::vector<Sample> values;
 };
 
-/// Arguments with a higher index get no samples.
+/// Arguments with this index or a higher one get no samples.
 constexpr std::size_t mostSampledArguments = 1000;
 
-/// Returns the samples of all arguments of a pattern, by index. It takes time in proportion to the
-/// pattern, but for the sorting of limits.
+/// Returns the samples of all arguments of a pattern, by index, in time linear in the pattern
+/// except for the sorting of limits.
 ///
-/// @param parameters  what is known about the arguments besides; may be fewer
+/// @param parameters  names and kinds of the arguments from comments; may be fewer
 std::vector<ArgumentSamples> samplesOf(const PatternTree& tree,
                                        const std::vector<Parameter>& parameters);
 

@@ -1,6 +1,3 @@
-// Walks a tree in the order of the pattern. The texts around the current one wait in frames, so that
-// the nesting of a pattern is not that of calls.
-
 #include "tool/preview/Explanation.h"
 
 #include "tool/pattern/ChoiceIntervals.h"
@@ -9,6 +6,10 @@
 
 #include <algorithm>
 #include <vector>
+
+// A pattern tree goes in, lines of words come out. The tree is visited in the order of the pattern:
+// static text, placeholders, and the entries of choices. The texts around the current one are kept
+// in frames, so the machine stack does not grow with the nesting of a pattern.
 
 namespace zem::msglib::tool {
 
@@ -19,12 +20,12 @@ constexpr std::size_t mostVanished = 8; // bytes that are named
 
 /// A text that is being explained.
 struct Frame {
-    std::size_t text;            ///< its number
+    std::size_t text;            ///< its index in the tree
     std::size_t begin;           ///< where it begins in the file, with its quoting
     std::size_t end;             ///< where it ends there
     std::size_t piece = 0;       ///< the next one
-    std::size_t placeholder = 0; ///< the next one, or the one whose choices are explained
-    std::size_t entry = 0;       ///< the next one of that
+    std::size_t placeholder = 0; ///< the next one, or the choice that is being explained
+    std::size_t entry = 0;       ///< the next entry of this choice
     std::vector<ChoiceInterval> intervals = {}; ///< of its entries
 };
 
@@ -58,7 +59,7 @@ private:
             return;
         }
         for (const SyntaxError& error : text().errors) {
-            line(0, colours_.error("does not compile: " + error.words));
+            line(0, colours_.error("does not compile: " + error.message));
         }
         if (text().pieces.empty() && placeholders.empty() && text().errors.empty()) {
             line(0, "nothing");
@@ -94,7 +95,7 @@ private:
         frame.begin = end;
     }
 
-    /// Names the bytes of a place that are not among the pieces.
+    /// Appends the bytes of a place that are not in the pieces.
     void explainQuoting(const Place& written, const std::vector<std::string_view>& pieces) {
         std::vector<std::size_t> vanished;
         std::size_t next = written.offset;
@@ -151,7 +152,7 @@ private:
         }
     }
 
-    /// Goes on with the text of the next entry of a choice.
+    /// Continues with the text of the next entry of a choice.
     void explainEntry(const Placeholder& choice) {
         Frame& frame = frames_.back();
         if (frame.entry == choice.entries.size()) {
@@ -166,7 +167,7 @@ private:
         frames_.push_back({choice.entries[number].text, source.offset, source.end()});
     }
 
-    /// Returns what is written for the text of an entry.
+    /// Returns the place of the text of an entry, as written.
     static Place sourceOf(const Placeholder& choice, std::size_t number) {
         const TracedText& style = choice.style;
         const auto positionIn = [&style](const ChoiceEntry& entry) {
@@ -185,7 +186,7 @@ private:
 
     /// Writes a line of the innermost text.
     ///
-    /// @param inside  by how much to indent it more
+    /// @param inside  additional levels of indentation
     void line(std::size_t inside, const std::string& words) {
         const std::size_t depth = text().depth;
         out_.append(4 * std::min(depth, mostIndented) + 2 * inside, ' ');

@@ -19,13 +19,17 @@
 #include <string_view>
 #include <utility>
 
+// A placeholder goes in, a description comes out: a summary, and lines with details. Numbers are
+// described by the layout of their decimal pattern, dates by the fields of their date pattern.
+// Every example is rendered by the library. The last part describes the intervals of choices.
+
 namespace zem::msglib::tool {
 
 namespace {
 
 constexpr std::int64_t exampleTime = 1795447845; // 2026-11-23T15:30:45
 
-/// Returns what the library shows for a value by a type and style, which make a formatter.
+/// Returns what the library shows for a value by a type and a style.
 std::string shownBy(std::string_view type, std::string_view style, const boost::any& value) {
     FormatElement element;
     element.type_ = type;
@@ -49,15 +53,15 @@ std::string byKind(const WrittenArgument& argument) {
 }
 
 std::string kindWords() {
-    return "as its kind asks: " + byKind(readArgument("1234")) + ", " +
-           byKind(readArgument("1234.5")) + ", a text stays as it is";
+    return "by its kind: " + byKind(readArgument("1234")) + ", " + byKind(readArgument("1234.5")) +
+           ", a text stays as it is";
 }
 
 std::string inBackticks(std::string_view text) {
     return '`' + visibleLine(text) + '`';
 }
 
-/// Returns a style, and how it is written if quoting has changed it.
+/// Returns a style, and its written form if quoting changes it.
 std::string styleWords(const Placeholder& placeholder) {
     const std::string_view style = placeholder.style.text();
     const std::size_t begin = placeholder.type.place().end() + 1; // after the comma
@@ -68,7 +72,8 @@ std::string styleWords(const Placeholder& placeholder) {
 
 // Numbers.
 
-/// Returns a pattern of the platform as text: its byte for the currency symbol is no character.
+/// Returns a pattern of the platform as text. Its byte for the currency symbol is not UTF-8, so it
+/// is replaced.
 std::string localePattern(const LocaleNumber& number) {
     std::string text;
     for (const char byte : number.pattern()) {
@@ -143,7 +148,7 @@ FormatWords numberWords(const Placeholder& placeholder) {
 
 struct FieldForm {
     char letter;
-    std::size_t length; ///< of this form and, up to the next row of the letter, of longer ones
+    std::size_t length; ///< of this form, also for longer runs up to the next row of the letter
     const char* words;
 };
 
@@ -191,7 +196,7 @@ std::string localeDatePattern(std::string_view type, std::string_view style) {
     return std::string(pattern.text());
 }
 
-/// Returns a line for each field of a date pattern, and for each text between them.
+/// Returns a line for each field of a date pattern, and for each text between fields.
 std::vector<std::string> fieldsOf(std::string_view pattern) {
     std::vector<std::string> lines;
     std::string text;
@@ -255,7 +260,7 @@ FormatWords formatWordsOf(const Placeholder& placeholder) {
     case PlaceholderKind::Date:
     case PlaceholderKind::DateStyle: return dateWords(placeholder);
     case PlaceholderKind::Unknown:
-        return {inBackticks(placeholder.type.text()) + " is no type", {kindWords()}};
+        return {inBackticks(placeholder.type.text()) + " is not a type", {kindWords()}};
     default: return {kindWords(), {}};
     }
 }

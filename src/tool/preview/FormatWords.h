@@ -8,19 +8,19 @@
 
 namespace zem::msglib::tool {
 
-/// How a placeholder shows its argument, in words.
+/// The format of a placeholder in words.
 struct FormatWords {
     std::string summary;              ///< without the argument, such as "a number by `0.0`"
     std::vector<std::string> details; ///< lines of their own
 };
 
-/// Describes any placeholder but a choice: the pattern that a style word stands for, groups and
-/// digits of numbers, the fields of dates, each with what the library makes of an example.
+/// Describes any placeholder except a choice: the pattern of a style word, groups and digits of
+/// numbers, the fields of dates, each with an example that the library renders.
 FormatWords formatWordsOf(const Placeholder& placeholder);
 
 /// Describes when an entry of a choice is chosen: `from 1, below 2`.
 ///
-/// @param interval  that of the entry
+/// @param interval  of this entry
 std::string intervalWords(const Placeholder& choice, std::size_t entry,
                           const ChoiceInterval& interval);
 

@@ -1,8 +1,3 @@
-// Which arguments a message is rendered with. The texts of choices are reached in one of two ways:
-// by all combinations of the intervals between limits, or, if they are too many, text by text, with
-// arguments that lie in the intervals of all choices around it. Then the values that a text shows
-// vary one at a time, in the intervals that reach this text.
-
 #include "tool/preview/SampleTable.h"
 
 #include "tool/pattern/ChoiceIntervals.h"
@@ -14,17 +9,23 @@
 #include <unordered_set>
 #include <utility>
 
+// A pattern tree goes in, a table of arguments and rendered texts comes out. First, the texts of
+// choices are reached in one of two ways: by all combinations of the intervals between limits, or,
+// if there are too many, text by text, with arguments in the intervals of all choices around it.
+// Then the values that a text shows are varied one at a time, in the intervals that reach this
+// text. An estimate of the work stops the table for huge patterns.
+
 namespace zem::msglib::tool {
 
 namespace {
 
 constexpr std::size_t mostCombinations = 256;
-constexpr std::size_t workForTexts = std::size_t{256} << 20; // about the bytes read and written
+constexpr std::size_t workForTexts = std::size_t{256} << 20; // roughly the bytes read and written
 constexpr std::size_t workForValues = std::size_t{32} << 20;
-constexpr std::size_t workForText = 16; // for each byte of it, which is kept
+constexpr std::size_t workForText = 16; // for each byte of a text, since texts are kept
 constexpr std::size_t workForArgument = 64;
 constexpr std::size_t workForStep = 16;
-constexpr std::size_t workForLevel = 512; // of choices in one another, which are rendered
+constexpr std::size_t workForLevel = 512; // of nested choices, which rendering walks through
 
 using Arguments = std::vector<WrittenArgument>;
 using Intervals = std::vector<NumberInterval>; // by argument
@@ -97,7 +98,7 @@ private:
         }
     }
 
-    /// Gives an argument its next case; returns false if that is the first one again.
+    /// Sets an argument to its next case. Returns false if that is the first one again.
     bool advance(std::size_t index, std::vector<std::size_t>& chosen, Arguments& arguments) const {
         const auto& cases = samples_[index].cases;
         chosen[index] = chosen[index] + 1 < cases.size() ? chosen[index] + 1 : 0;
@@ -127,7 +128,7 @@ private:
         }
     }
 
-    /// Returns the arguments that a text shows itself.
+    /// Returns the arguments that a text shows outside of its choices.
     std::set<std::size_t> shownIn(const PatternText& text) const {
         std::set<std::size_t> shown;
         for (const Placeholder& placeholder : text.placeholders) {
@@ -153,7 +154,7 @@ private:
         }
     }
 
-    /// Returns the intervals in which the arguments choose a text; nothing if none do.
+    /// Returns the intervals of arguments that choose a text; nothing if no arguments do.
     std::optional<Intervals> intervalsAround(std::size_t number) {
         Intervals around(samples_.size());
         work_ += samples_.size() * workForArgument;
@@ -185,7 +186,8 @@ private:
         return arguments;
     }
 
-    /// Returns the first case in an interval if there is one near the start, since it reads best.
+    /// Returns an argument in an interval: one of the first cases if possible, since these read
+    /// best.
     static WrittenArgument argumentIn(const NumberInterval& interval,
                                       const ArgumentSamples& samples) {
         constexpr std::size_t mostTried = 8;
@@ -219,7 +221,7 @@ private:
     const PatternTree& tree_;
     std::vector<ArgumentSamples> samples_;
     Intervals intervals_; // of the texts of choices, by the number of the text
-    Arguments usual_;     // where nothing else is asked for
+    Arguments usual_;     // the default for each argument
     std::unordered_set<std::string> tried_;
     std::unordered_set<std::string> seen_;
     std::size_t work_ = 0;

@@ -1,6 +1,3 @@
-// In a module, the tables are notes: in the segments of notes of what can be loaded, where the library looks for them
-// too, and in the sections of notes of an object that is still to be linked.
-
 #include "tool/table/ModuleTables.h"
 
 #include "tool/catalogue/Catalogue.h"
@@ -16,6 +13,11 @@
 #include <set>
 #include <utility>
 
+// The bytes of a file go in, its tables come out. In an ELF module, the tables are notes. Modules
+// that can be loaded have them in note segments, where the library searches them too. Objects that
+// are not linked yet have them in note sections. The tables of one language are merged. A file that
+// is not ELF is decoded as one table.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -26,7 +28,7 @@ constexpr char tableName[] = "zem.msglib"; // in the note, with its terminator
 constexpr std::uint32_t tableType = 0x4d544231;
 constexpr std::size_t tableHeaderSize = 8;
 
-// Linkers make segments of notes that overlap, but not more of them than this.
+// Linkers produce note segments that overlap, but not more of them than this.
 constexpr std::uint64_t mostReadings = 8;
 
 bool startsWith(std::string_view bytes, std::string_view start) noexcept {
@@ -60,8 +62,8 @@ public:
     }
 
 private:
-    [[noreturn]] void refuse(const std::string& words) const {
-        throw CannotRun(name_ + ": the module cannot be read: " + words);
+    [[noreturn]] void refuse(const std::string& reason) const {
+        throw CannotRun(name_ + ": the module cannot be read: " + reason);
     }
 
     void readSegments() {
@@ -126,7 +128,7 @@ private:
         }
     }
 
-    /// Reads the table in a note; where segments overlap, it may have been read before.
+    /// Reads the table in a note, unless it was already read from an overlapping segment.
     void readTable(std::size_t offset, std::size_t size) {
         if (!known_.insert(offset).second) {
             return;
@@ -139,14 +141,14 @@ private:
         }
         try {
             TableTexts texts = decodeTable(content.part(tableHeaderSize, length));
-            tables_[language].merge(texts); // which keeps the first text of each message
+            tables_[language].merge(texts); // this keeps the first text of each message
         } catch (const BrokenTable& broken) {
             throw CannotRun(name_ + ": the table of messages in the language " +
                             languageText(language) + " is damaged: " + broken.what());
         }
     }
 
-    /// Reads a number in the order of bytes of the module's machine.
+    /// Reads a number in the byte order of the module's machine.
     std::uint32_t numberAt(Bytes bytes, std::size_t offset) const noexcept {
         const std::uint32_t number = bytes.u32(offset);
         const bool isReversed = header_.e_ident[EI_DATA] == ELFDATA2MSB;
@@ -166,10 +168,10 @@ private:
     std::map<std::uint32_t, TableTexts> tables_;
 };
 
-/// Says what a file is that has no tables that could be read.
+/// Returns why the tool cannot read tables from a file.
 std::string describeForeign(std::string_view bytes) {
     if (startsWith(bytes, ARMAG)) {
-        return "this is an archive of objects; take an object out of it, as by ar x";
+        return "this is an archive of objects; extract an object, for example with ar x";
     }
     if (startsWith(bytes, "MZ")) {
         return "this is a module for Windows; read the table that it was made from, a .bin file";
@@ -202,7 +204,7 @@ std::vector<LanguageTable> readTables(const std::string& name, std::string bytes
             tables.push_back({std::nullopt, std::move(texts)});
         }
     } catch (const BrokenTable& broken) {
-        throw CannotRun(name + ": this is no message table, or a damaged one: " + broken.what());
+        throw CannotRun(name + ": this is not a message table, or a damaged one: " + broken.what());
     }
     return tables;
 }

@@ -5,6 +5,10 @@
 #include "platform/MessageTables.h"
 #include "platform/portable/TableReader.h"
 
+// The bytes of a table go in, its texts come out. The blocks are read in order, then the entries of
+// each block. Every offset and length is checked before it is used, and the total length of entries
+// is bounded by the table, so the time is linear.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -35,7 +39,7 @@ public:
 
     TableTexts decode() {
         if (!mayBeTable(table_)) {
-            throw BrokenTable("it has no room for the blocks that it announces");
+            throw BrokenTable("it is too short for the number of its blocks");
         }
         const std::size_t end = countSize + table_.u32(0) * blockSize;
         for (std::size_t block = countSize; block < end; block += blockSize) {
@@ -64,8 +68,8 @@ private:
     std::size_t decodeEntry(std::uint32_t id, std::size_t offset, std::size_t end) {
         const std::size_t length = table_.u16(offset);
         const std::uint16_t flags = table_.u16(offset + 2);
-        const auto refuse = [id](const char* words) {
-            throw BrokenTable("its entry of " + hexadecimal(id) + words);
+        const auto refuse = [id](const char* reason) {
+            throw BrokenTable("its entry of " + hexadecimal(id) + reason);
         };
         if (offset < end || length < headerSize || !table_.holds(offset, length)) {
             refuse(" lies outside of it");

@@ -11,7 +11,8 @@ namespace zem::msglib::tool {
 /// Returns the name of the severity of an identifier, its two highest bits.
 const char* severityOf(std::uint32_t id) noexcept;
 
-/// Returns the messages of tables, each with its identifier in whole and in parts, and its text:
+/// Returns the messages of tables, each with its identifier, the parts of the identifier, and its
+/// text:
 ///
 ///     Language 0x0409: 2 messages
 ///

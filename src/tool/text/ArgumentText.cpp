@@ -15,19 +15,23 @@
 #include <optional>
 #include <system_error>
 
+// The text of an argument on the command line goes in, a value of the fitting type comes out. The
+// form decides: a text in quotation marks, a Boolean, a number, a date, or any other text. The
+// other functions write values in a form that is read as the same value.
+
 namespace zem::msglib::tool {
 
 namespace {
 
 constexpr std::int64_t unitsPerSecond = 10'000'000;
-constexpr std::int64_t secondsTo1970 = 11'644'473'600; // from 1601 on
+constexpr std::int64_t secondsTo1970 = 11'644'473'600; // since 1601
 
 [[noreturn]] void refuse(std::string_view text, const char* why) {
     throw CannotRun("argument " + std::string(text) + ": " + why +
                     "; a text has to be in quotation marks");
 }
 
-/// Reads a number that is the whole text; nothing if it is none.
+/// Reads a number that is the whole text. Returns nothing if the text is not a number.
 template <class Number>
 std::optional<Number> readWhole(std::string_view text, bool& isOutOfRange) {
     Number value{};
@@ -45,7 +49,7 @@ boost::any integerOf(long long value) {
                                            : boost::any(value);
 }
 
-/// Returns the number of a text; empty if it is none.
+/// Returns the value of a number; empty if the text is not a number.
 boost::any readNumber(std::string_view text) {
     constexpr std::string_view special[] = {"inf", "-inf", "nan"};
     const std::size_t digit = text.find_first_not_of("-.");
@@ -70,7 +74,7 @@ boost::any readNumber(std::string_view text) {
     return value ? boost::any(*value) : boost::any();
 }
 
-/// Tells whether a text has the form of another one, in which each `0` is any digit.
+/// Returns whether a text has a form, in which each `0` means any digit.
 bool hasForm(std::string_view text, std::string_view form) {
     return std::equal(text.begin(), text.end(), form.begin(), form.end(), [](char byte, char mark) {
         return mark == '0' ? isDigit(byte) : byte == mark;
@@ -87,7 +91,7 @@ bool isTime(std::string_view text) {
                        [text](std::string_view form) { return hasForm(text, form); });
 }
 
-/// Returns the number at a position of a text that has the form of a time; 0 after its end.
+/// Returns the number at a position of a text with the form of a time; 0 after its end.
 std::uint16_t fieldAt(std::string_view text, std::size_t position, std::size_t digits) {
     std::uint16_t value = 0;
     if (position < text.size()) {
@@ -116,7 +120,8 @@ std::string textOf(double value) {
     return text.find_first_of(".en") == std::string::npos ? text + ".0" : text;
 }
 
-/// Tells whether a text means itself, and is one word that no shell changes.
+/// Returns whether a text is read as itself without quotation marks, and is one word that no shell
+/// changes.
 bool isPlain(std::string_view text) {
     constexpr std::string_view special = "\"'\\$`!*?[]{}()<>|&;#~";
     return !text.empty() && !isDigit(text.front()) && text.front() != '-' && text.front() != '.' &&

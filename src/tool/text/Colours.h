@@ -5,7 +5,8 @@
 
 namespace zem::msglib::tool {
 
-/// Puts the escape sequences of terminals around parts of a text, or nothing if it is switched off.
+/// Puts the escape sequences of terminals around parts of a text, or returns them unchanged if
+/// colours are off.
 class Colours {
 public:
     explicit Colours(bool isOn = false) noexcept : isOn_(isOn) {}

@@ -11,6 +11,10 @@
 #include <cstdio>
 #include <utility>
 
+// The bytes of a file go in, UTF-8 comes out. A byte order mark or the first character decides
+// whether the file is UTF-16. UTF-8 is only validated; all other encodings are converted by iconv,
+// up to the first bytes that are not valid.
+
 namespace zem::msglib::tool {
 
 namespace {
@@ -23,13 +27,12 @@ bool startsWith(std::string_view bytes, std::string_view start) {
     return bytes.substr(0, start.size()) == start;
 }
 
-/// Closes a converter at the end of its scope.
+/// A converter of iconv.
 class Converter {
 public:
     Converter(const char* to, const std::string& from) : handle_(iconv_open(to, from.c_str())) {
         if (!isOpen()) {
-            throw CannotRun("there is no encoding " + from +
-                            "; iconv --list shows those there are");
+            throw CannotRun("there is no encoding " + from + "; iconv --list shows all encodings");
         }
     }
     ~Converter() {
@@ -40,7 +43,7 @@ public:
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
 
-    /// Converts from `in` on and advances it.
+    /// Converts `in`, and moves its start to the first bytes that were not converted.
     ///
     /// @return 0, or the reason why it stopped before the end
     int convert(std::string_view& in, std::string& out) {
@@ -51,7 +54,7 @@ public:
             std::array<char, 1U << 14> buffer;
             char* end = buffer.data();
             std::size_t room = buffer.size();
-            // Without input, a last call writes what a stateful encoding holds back.
+            // A last call without input writes the bytes that a stateful encoding still holds.
             const bool isLast = left == 0;
             const std::size_t result =
                 iconv(handle_, isLast ? nullptr : &position, &left, &end, &room);
@@ -77,14 +80,15 @@ std::string hexadecimalByte(char byte) {
             static_cast<std::size_t>(std::snprintf(digits.data(), digits.size(), "0x%02X", value))};
 }
 
-/// Tells whether the first character is ASCII in UTF-16. In UTF-32, it would have three zero bytes.
+/// Returns whether the first character is ASCII in UTF-16. In UTF-32, it would have three zero
+/// bytes.
 bool startsInUtf16(std::string_view bytes) {
     return bytes.size() >= 2 && (bytes[0] == '\0') != (bytes[1] == '\0') &&
            bytes.substr(2, 2) != std::string_view("\0\0", 2);
 }
 
 std::string problemOf(std::string_view rest, const std::string& encoding) {
-    return "the byte " + hexadecimalByte(rest.front()) + " is no " + encoding + " here";
+    return "the byte " + hexadecimalByte(rest.front()) + " is not valid " + encoding + " here";
 }
 
 DecodedText decodeUtf8(std::string bytes) {

@@ -4,7 +4,7 @@
 
 namespace zem::msglib::tool {
 
-/// Returns the bytes of a file, all of them.
+/// Returns all bytes of a file.
 ///
 /// @param path  of the file; `-` stands for standard input
 /// @throws CannotRun if it cannot be opened or read to its end

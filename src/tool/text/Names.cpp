@@ -3,11 +3,16 @@
 #include <algorithm>
 #include <numeric>
 
+// A wrong word and the known names go in, the name that was probably meant comes out. The distance
+// of two words is the number of their insertions, deletions and replacements. Limits on the length
+// of words and the number of names bound the time.
+
 namespace zem::msglib::tool {
 
 namespace {
 
-// Longer words are no misspellings. Together with the number of names, it bounds the time.
+// Longer words are not treated as misspellings. This and the limit on the number of names bound the
+// time.
 constexpr std::size_t longestWord = 64;
 constexpr std::size_t mostCandidates = 256;
 
@@ -15,7 +20,7 @@ char lower(char byte) noexcept {
     return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
 
-/// Returns how many insertions, deletions and replacements lead from one word to the other.
+/// Returns the number of insertions, deletions and replacements that turn one word into the other.
 std::size_t distance(std::string_view one, std::string_view other) {
     std::vector<std::size_t> row(other.size() + 1);
     std::iota(row.begin(), row.end(), std::size_t{0});
@@ -63,7 +68,7 @@ std::optional<std::string_view> nearest(std::string_view word,
         const std::size_t longer = std::max(word.size(), candidate.size());
         const std::size_t shorter = std::min(word.size(), candidate.size());
         if (longer - shorter >= least) {
-            continue; // it takes as many insertions or deletions
+            continue; // at least so many insertions or deletions are needed
         }
         const std::size_t steps = distance(word, candidate);
         if (steps < least) {

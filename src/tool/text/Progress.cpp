@@ -44,7 +44,7 @@ void Progress::step() {
 void Progress::show() {
     const std::string text = doing_ + ' ' + std::to_string(done_) + " of " + std::to_string(total_);
     *out_ << '\r' << text << std::flush;
-    width_ = text.size(); // which never shrinks, since the count grows
+    width_ = text.size(); // never shrinks, since the count grows
     next_ = now_() + interval;
 }
 

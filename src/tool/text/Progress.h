@@ -7,22 +7,22 @@
 
 namespace zem::msglib::tool {
 
-/// Shows on a terminal how far a long work is, from half a second on: `checking 1200 of 20000`. The
-/// line is taken away at the end of the object.
+/// Shows the progress of long work on a terminal, after half a second: `checking 1200 of 20000`.
+/// The destructor removes the line.
 class Progress {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Shows it on standard error, if that is a terminal.
+    /// Shows the progress on standard error, if that is a terminal.
     ///
-    /// @param doing       what is done, as in `checking`
+    /// @param doing       the work, such as `checking`
     /// @param total       the number of steps
-    /// @param isPrinting  whether the work also prints; if that goes to a terminal, nothing else is
+    /// @param isPrinting  whether the work also prints; if it prints to a terminal, no progress is
     ///                    shown
     Progress(std::string doing, std::size_t total, bool isPrinting = false);
 
-    /// @param out  where to show it; null for nowhere
-    /// @param now  tells the time
+    /// @param out  where to show the progress; null for nowhere
+    /// @param now  returns the time
     Progress(std::string doing, std::size_t total, std::ostream* out, Clock::time_point (*now)());
 
     Progress(const Progress&) = delete;
@@ -39,9 +39,9 @@ private:
     std::size_t total_;
     std::ostream* out_;
     Clock::time_point (*now_)();
-    Clock::time_point next_; ///< when to show it again
+    Clock::time_point next_; ///< the next time to show the progress
     std::size_t done_ = 0;
-    std::size_t width_ = 0; ///< of what is shown
+    std::size_t width_ = 0; ///< of the shown line
 };
 
 } // namespace zem::msglib::tool

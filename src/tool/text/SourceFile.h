@@ -7,16 +7,16 @@
 
 namespace zem::msglib::tool {
 
-/// A file that the user wrote, decoded, which diagnostics point into.
+/// The decoded content of a file that the user wrote. Diagnostics refer to it.
 ///
-/// Whatever the file's own form is, its text is UTF-8 with LF line ends, so an offset into it is
-/// all that a position needs. Views of the text stay valid as long as the object, also when it is
-/// moved to by way of a pointer; it is neither copied nor moved itself, since `Place` points to it.
+/// The text is always UTF-8 with LF line ends, so an offset into it is enough for a position. Views
+/// of the text are valid as long as the object. The object can neither be copied nor moved, since
+/// `Place` points to it.
 class SourceFile {
 public:
-    /// @param name    as the user gave it, for diagnostics
+    /// @param name    the name that the user wrote, for diagnostics
     /// @param text    valid UTF-8
-    /// @param number  the rank among the files of one run, by which diagnostics are ordered
+    /// @param number  the position among the files of one run; orders diagnostics
     SourceFile(std::string name, std::string text, std::size_t number = 0);
     SourceFile(const SourceFile&) = delete;
     SourceFile& operator=(const SourceFile&) = delete;
@@ -25,7 +25,7 @@ public:
     std::string_view text() const noexcept { return text_; }
     std::size_t number() const noexcept { return number_; }
 
-    /// Line and column of a character, both from 1. Columns count characters, a tab as one.
+    /// Line and column of a character, both counted from 1. Columns count characters; a tab is one.
     struct Position {
         std::size_t line;
         std::size_t column;
@@ -49,7 +49,7 @@ private:
     std::size_t number_;
     std::vector<std::size_t> lineStarts_;
     std::vector<std::size_t>
-        characters_; // before each block, so that columns of long lines are fast
+        characters_; // before each block, so columns of long lines are found fast
 };
 
 /// Some bytes of a source file, such as those that a diagnostic is about.

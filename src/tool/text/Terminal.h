@@ -8,7 +8,7 @@ namespace zem::msglib::tool {
 /// Returns whether a stream is a terminal that obeys escape sequences.
 bool isTerminal(std::FILE* stream);
 
-/// Returns whether text for a stream is to be coloured.
+/// Returns whether text for a stream has colours.
 ///
 /// @param when    `always`, `never`, or `auto` for terminals, unless the environment variable
 ///                NO_COLOR forbids it

@@ -12,7 +12,7 @@ namespace {
 
 using Utf8 = boost::locale::utf::utf_traits<char>;
 
-/// Returns the number of ASCII bytes at the start of `bytes`, at least in steps of eight.
+/// Returns the length of an ASCII prefix of `bytes`, a multiple of eight.
 std::size_t asciiStart(std::string_view bytes) noexcept {
     std::size_t length = 0;
     for (std::uint64_t word = 0; bytes.size() - length >= sizeof word; length += sizeof word) {
@@ -33,7 +33,7 @@ std::size_t characterCount(std::string_view utf8) noexcept {
 
 std::size_t utf16UnitCount(std::string_view utf8) noexcept {
     const auto pairs = std::count_if(utf8.begin(), utf8.end(), [](char byte) {
-        return static_cast<unsigned char>(byte) >= 0xF0; // the lead of four bytes
+        return static_cast<unsigned char>(byte) >= 0xF0; // the lead byte of a sequence of four
     });
     return characterCount(utf8) + static_cast<std::size_t>(pairs);
 }

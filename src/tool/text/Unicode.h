@@ -11,11 +11,12 @@ std::size_t characterCount(std::string_view utf8) noexcept;
 /// Returns the number of UTF-16 units that valid UTF-8 has.
 std::size_t utf16UnitCount(std::string_view utf8) noexcept;
 
-/// Returns the length of the longest valid UTF-8 at the start of `bytes`: their size if all of them
-/// are valid.
+/// Returns the length of the longest prefix of `bytes` that is valid UTF-8: their size if all are
+/// valid.
 std::size_t validUtf8Length(std::string_view bytes) noexcept;
 
-/// Tells whether a character is one that a terminal obeys in place of showing it.
+/// Returns whether a character is a control character, which a terminal executes instead of showing
+/// it.
 constexpr bool isControl(char32_t character) noexcept {
     return character < 0x20 || (character >= 0x7F && character < 0xA0);
 }

@@ -72,7 +72,9 @@ inline std::string violationIn(const PatternTree& tree, const PatternText& text)
         return "each byte has its offset in the file";
     }
     const std::string failure = failureOfCompiling(text.text.text());
-    const auto hasMessage = [&failure](const SyntaxError& error) { return error.message == failure; };
+    const auto hasMessage = [&failure](const SyntaxError& error) {
+        return error.message == failure;
+    };
     if (failure.empty() ? !text.errors.empty()
                         : std::none_of(text.errors.begin(), text.errors.end(), hasMessage)) {
         return "the check accepts what the library accepts, and reports its failures";

@@ -56,8 +56,8 @@ TEST(CatalogueRulesTest, ChecksAllFilesTogether) {
         {__LINE__,
          {names + message("1", "Facility=A"),
           names + message("1", "Facility=B") + message("2", "Facility=B")},
-         "1.mc:2:1-10 facility-clash: the facilities of 0x08120001 and 0x00120001 stand for one "
-         "module, since they differ in bit 27 only (2:1-10 the other message is here)\n"},
+         "1.mc:2:1-10 facility-clash: the facilities of 0x08120001 and 0x00120001 select the same "
+         "module, since they differ only in bit 27 (2:1-10 the other message is here)\n"},
         {__LINE__, {names + message("1", "Facility=B")}, ""},
         // names that are reserved in C++
         {__LINE__,

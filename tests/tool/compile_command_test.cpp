@@ -141,7 +141,8 @@ TEST_F(CompileCommandTest, HasTheExitStatusOfItsDiagnostics) {
         {__LINE__, "Good.mc --output x --namespace Good=app::default", 2, "CATALOGUE=NAMESPACE"},
         {__LINE__, "Good.mc --output x --namespace app", 2, "CATALOGUE=NAMESPACE"},
         {__LINE__, "Good.mc --output x --namespace Bad=app", 2, "there is no catalogue Bad"},
-        {__LINE__, "Good.mc --output x --namespace Good=MSG_A::x", 2, "MSG_A is the namespace"},
+        {__LINE__, "Good.mc --output x --namespace Good=MSG_A::x", 2,
+         "MSG_A is also the namespace"},
         {__LINE__, "'a\"b.mc' --output x", 2, "a header cannot have the name"},
         {__LINE__, "--help", 0, "msglib compile App.mc --output ."},
     };

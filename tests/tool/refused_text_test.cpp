@@ -181,7 +181,7 @@ TEST(RefusedTextTest, ReportsAmbiguousHeads) {
          "1:11-13 ambiguous-header: a number with a leading 0: octal for some programs, decimal "
          "for others (leave out the 0, or write the number as hexadecimal)\n"},
         {__LINE__, "FacilityNames=(App=1 APP=1 app=2)\nMessageId=1" + text,
-         "1:28-31 ambiguous-header: this name and APP differ in upper and lower case only: some "
+         "1:28-31 ambiguous-header: this name and APP differ only in upper and lower case: some "
          "programs read them as the same name\n"},
     });
 }

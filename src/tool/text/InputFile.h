@@ -6,7 +6,7 @@ namespace zem::msglib::tool {
 
 /// Returns all bytes of a file.
 ///
-/// @param path  of the file; `-` stands for standard input
+/// @param path  of the file; `-` is standard input
 /// @throws CannotRun if it cannot be opened or read to its end
 std::string readBytes(const std::string& path);
 

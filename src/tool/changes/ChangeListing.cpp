@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cassert>
 
 // A list of changes goes in, text or JSON comes out. In text, each change has one line, with its
 // columns aligned over all changes, and the old and new texts below. A summary comes last.
@@ -120,6 +121,7 @@ Json objectOf(const Change& change) {
         object["message"] = change.words;
     }
     if (change.kind == ChangeKind::arguments) {
+        assert(change.before != nullptr && change.after != nullptr);
         object["arguments"] = kindsOf(change.before->signature);
         object["newArguments"] = kindsOf(change.after->signature);
     }

@@ -2,6 +2,7 @@
 
 #include "tool/changes/CatalogueVersion.h"
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -32,6 +33,7 @@ struct Change {
     std::vector<TextChange> texts;  ///< none if another kind of change
 
     const VersionedMessage& message() const noexcept {
+        assert(before != nullptr || after != nullptr);
         return before != nullptr ? *before : *after;
     }
 };

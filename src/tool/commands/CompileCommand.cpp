@@ -147,6 +147,7 @@ ExitStatus compile(const CompileOptions& options) {
     checkIdentifiers(catalogues, diagnostics);
     checkMessages(catalogues, diagnostics);
     std::vector<Signatures> signatures;
+    signatures.reserve(catalogues.size());
     for (const Catalogue& catalogue : catalogues) {
         signatures.push_back(readSignatures(catalogue, diagnostics));
     }

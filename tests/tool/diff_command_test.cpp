@@ -3,6 +3,7 @@
 
 #include "tool/Program.h"
 
+#include <iterator>
 #include <string>
 
 namespace zem::msglib::tool {
@@ -115,7 +116,8 @@ TEST_F(DiffCommandTest, RefusesFilesThatCannotBeRead) {
     write("Good.mc", message("1", "x"));
     write("Wrong.mc", "MessageId=1\n");
     write("Warned.mc", message("1 SymbolicName=EOF", "x"));
-    write("damaged", std::string(12, '\0') + "\1\0\0\0");
+    const unsigned char outside[] = {1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 0xFF, 0, 0, 0};
+    write("damaged", {std::begin(outside), std::end(outside)});
     const struct {
         int line;
         const char* arguments;
@@ -125,6 +127,7 @@ TEST_F(DiffCommandTest, RefusesFilesThatCannotBeRead) {
         {__LINE__, "Good.mc Wrong.mc", 2, "Wrong.mc:1:1: error: the message has no text"},
         {__LINE__, "Good.mc Warned.mc", 0, "no changes"},
         {__LINE__, "Good.mc missing", 2, "missing: cannot be read"},
+        {__LINE__, "Good.mc damaged", 2, "damaged: this is not a message table, or a damaged one"},
         {__LINE__, "Good.mc", 2, "NEW is required"},
         {__LINE__, "--help", 0, "git show v1.0:App.mc"},
     };

@@ -68,12 +68,25 @@ bool isInvisible(char32_t character) {
            (character >= 0x2066 && character <= 0x2069);
 }
 
+/// Returns the length of the printable ASCII at the start of a text, which is nearly all of most.
+std::size_t plainLength(std::string_view text) {
+    const auto isPlain = [](char byte) { return byte >= ' ' && byte <= '~'; };
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) -
+                                    text.begin());
+}
+
 /// Appends a line of a comment, without characters that could end the line or continue the comment
 /// on the next one.
 void appendComment(std::string& out, std::string_view line) {
     out += "///";
     out += line.empty() ? "" : " ";
-    while (!line.empty()) {
+    while (true) {
+        const std::size_t plain = plainLength(line);
+        out += line.substr(0, plain);
+        line.remove_prefix(plain);
+        if (line.empty()) {
+            break;
+        }
         const std::string_view before = line;
         const char32_t character = takeCharacter(line);
         if (isInvisible(character)) {

@@ -1,4 +1,5 @@
-# Adds the documents that every Debian package needs to the files that CPack has collected for it.
+# Adds the documents that every Debian package needs to the files that CPack has collected for it, and compresses the manual
+# page.
 
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
     return()
@@ -20,3 +21,8 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     file(WRITE ${folder}/changelog.Debian "${changelog}")
     execute_process(COMMAND gzip -9 --no-name --force ${folder}/changelog.Debian COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
+
+set(page ${CPACK_TEMPORARY_DIRECTORY}/Tools/usr/share/man/man1/msglib.1)
+if(EXISTS ${page})
+    execute_process(COMMAND gzip -9 --no-name --force ${page} COMMAND_ERROR_IS_FATAL ANY)
+endif()

@@ -161,7 +161,7 @@ void MessageRenderer::render(const FormatElement& element) {
 
 std::string renderPattern(std::string_view pattern, const std::list<boost::any>& args) {
     constexpr std::size_t shortestPlaceholder = 3;
-    constexpr std::size_t expectedArgumentSize = 32;
+    constexpr std::size_t expectedArgumentSize = 8;
     constexpr std::size_t acceptableSlack = 1024;
     std::string text;
     const std::size_t placeholders = std::min(args.size(), pattern.size() / shortestPlaceholder);

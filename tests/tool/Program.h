@@ -16,6 +16,12 @@ struct Outcome {
     std::string output; ///< standard output and standard error
 };
 
+/// Expects an exit status, and some words in the output.
+inline void expect(const Outcome& outcome, int status, const std::string& words) {
+    EXPECT_EQ(outcome.status, status) << outcome.output;
+    EXPECT_NE(outcome.output.find(words), std::string::npos) << outcome.output;
+}
+
 /// Creates an empty folder for each test, and removes it afterwards.
 class FolderTest : public testing::Test {
 protected:

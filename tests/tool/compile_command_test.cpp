@@ -149,9 +149,8 @@ TEST_F(CompileCommandTest, HasTheExitStatusOfItsDiagnostics) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
         const Outcome outcome = compile(row.arguments);
-        EXPECT_EQ(outcome.status, row.status) << outcome.output;
+        expect(outcome, row.status, row.words);
         EXPECT_EQ(outcome.output.empty(), row.words.empty()) << outcome.output;
-        EXPECT_NE(outcome.output.find(row.words), std::string::npos) << outcome.output;
     }
     EXPECT_EQ(run("'" PROGRAM "'").status, 2);
     EXPECT_EQ(run("'" PROGRAM "' --version").output.rfind("msglib ", 0), 0U);

@@ -175,9 +175,7 @@ TEST_F(DumpCommandTest, HasTheExitStatusOfTheFile) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
-        const Outcome outcome = dump(row.arguments);
-        EXPECT_EQ(outcome.status, row.status) << outcome.output;
-        EXPECT_NE(outcome.output.find(row.words), std::string::npos) << outcome.output;
+        expect(dump(row.arguments), row.status, row.words);
     }
 }
 

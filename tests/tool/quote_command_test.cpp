@@ -227,19 +227,5 @@ TEST_F(QuoteCommandTest, PrintsTheSpellingAlone) {
     }
 }
 
-TEST_F(QuoteCommandTest, MatchesTheDocumentation) {
-    std::ifstream page(ROOT "/docs/catalogues.md");
-    std::size_t examples = 0;
-    for (std::string line; std::getline(page, line);) {
-        const std::size_t comment = line.find(" # ");
-        if (line.rfind("    msglib quote ", 0) == 0 && comment != std::string::npos) {
-            const std::string command = line.substr(11, comment - 11);
-            EXPECT_EQ(run("'" PROGRAM "' " + command).output, line.substr(comment + 3) + "\n");
-            ++examples;
-        }
-    }
-    EXPECT_EQ(examples, 5U);
-}
-
 } // namespace
 } // namespace zem::msglib::tool

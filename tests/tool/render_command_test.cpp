@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
 namespace zem::msglib::tool {
@@ -157,32 +155,6 @@ TEST_F(RenderCommand, ReportsErrorsOfTheFileAsTheCheckDoes) {
     write("Broken.mc", "MessageId=1\nLanguage=English\nno end\n");
     EXPECT_EQ(run(PROGRAM " render Broken.mc A 2>errors").status, 1);
     EXPECT_EQ(run(PROGRAM " explain Broken.mc 2>errors").status, 1);
-}
-
-std::string contentOf(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-std::string indented(const std::string& text) {
-    std::string result;
-    for (const char byte : "\n" + text.substr(0, text.size() - 1)) {
-        result += byte == '\n' ? "\n    " : std::string(1, byte);
-    }
-    return result;
-}
-
-TEST_F(RenderCommand, MatchesTheDocumentation) {
-    const std::string page = contentOf(DOCS_FOLDER "/catalogues.md");
-    for (const char* const command : {"render DesktopMessages.mc MSG_COPIED --language English",
-                                      "render DesktopMessages.mc MSG_COPIED 7 Büro",
-                                      "explain DesktopMessages.mc MSG_COPIED --language English"}) {
-        const Outcome outcome =
-            run("cd '" EXAMPLES_FOLDER "/desktop' && " PROGRAM " " + std::string(command));
-        EXPECT_EQ(outcome.status, 0);
-        EXPECT_NE(page.find("    msglib " + std::string(command) + "\n"), std::string::npos);
-        EXPECT_NE(page.find(indented(outcome.output)), std::string::npos) << outcome.output;
-    }
 }
 
 } // namespace

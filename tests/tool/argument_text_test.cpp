@@ -2,8 +2,8 @@
 
 #include "tool/text/ArgumentText.h"
 #include "tool/text/CannotRun.h"
+#include "tool/text/DisplayText.h"
 #include "tool/text/Progress.h"
-#include "tool/text/Words.h"
 
 #include "base/Argument.h"
 

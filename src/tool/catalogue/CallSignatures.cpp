@@ -3,8 +3,9 @@
 #include "tool/catalogue/CommentDirectives.h"
 #include "tool/catalogue/ReservedNames.h"
 #include "tool/pattern/PatternTree.h"
+#include "tool/text/DisplayText.h"
 #include "tool/text/Names.h"
-#include "tool/text/Words.h"
+#include "tool/text/Strings.h"
 
 #include <algorithm>
 #include <charconv>
@@ -102,7 +103,7 @@ public:
         if (Parameter* const parameter = find(index.length > 0 ? index : keyword)) {
             readName(takeWord(rest), index, *parameter);
             readKind(takeWord(rest), *parameter);
-            parameter->description = withoutBlanks(rest.text());
+            parameter->description = trimmed(rest.text());
         }
     }
 

@@ -2,7 +2,6 @@
 
 #include "tool/text/CannotRun.h"
 #include "tool/text/Names.h"
-#include "tool/text/Words.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,6 +1,6 @@
 #include "tool/changes/CatalogueVersion.h"
 
-#include "tool/text/Words.h"
+#include "tool/text/Strings.h"
 
 #include <utility>
 

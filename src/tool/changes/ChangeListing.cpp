@@ -1,7 +1,8 @@
 #include "tool/changes/ChangeListing.h"
 
 #include "tool/text/Colours.h"
-#include "tool/text/Words.h"
+#include "tool/text/DisplayText.h"
+#include "tool/text/Strings.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,6 +1,7 @@
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/Spelling.h"
-#include "tool/text/Words.h"
+#include "tool/text/DisplayText.h"
+#include "tool/text/Strings.h"
 
 #include <algorithm>
 #include <locale>
@@ -19,7 +20,7 @@ namespace {
 
 /// Returns whether a limit is a number and nothing else.
 bool isWhollyNumber(std::string_view limit) {
-    const std::string_view number = withoutBlanks(limit);
+    const std::string_view number = trimmed(limit);
     if (!number.empty() && std::all_of(number.begin(), number.end(), isDigit)) {
         return true;
     }
@@ -63,7 +64,7 @@ std::vector<Note> notesForLimit(const ChoiceEntry& entry) {
 Place placeOfLimit(const ChoiceEntry& entry) {
     Place place = entry.limitText.place();
     const std::size_t separator = place.offset + place.length;
-    if (withoutBlanks(entry.limitText.text()).empty()) {
+    if (trimmed(entry.limitText.text()).empty()) {
         return {place.file, separator, 1};
     }
     return place;

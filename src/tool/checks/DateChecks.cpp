@@ -1,7 +1,8 @@
 #include "tool/checks/PatternChecks.h"
-#include "tool/checks/StyleWords.h"
+#include "tool/checks/StyleKeywords.h"
 #include "tool/pattern/Spelling.h"
-#include "tool/text/Words.h"
+#include "tool/text/DisplayText.h"
+#include "tool/text/Strings.h"
 
 #include "base/Scanning.h"
 #include "date/DateReader.h"
@@ -311,7 +312,7 @@ void checkDateStyles(const PatternTree& tree, Diagnostics& diagnostics) {
     for (const PatternText& text : tree.texts()) {
         for (const Placeholder& placeholder : text.placeholders) {
             if (placeholder.kind == PlaceholderKind::DateStyle &&
-                misreadStyleWord(placeholder).empty()) {
+                misreadStyleKeyword(placeholder).empty()) {
                 DateStyleCheck(placeholder.style, text.depth, diagnostics).check();
             }
         }

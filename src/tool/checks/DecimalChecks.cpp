@@ -1,7 +1,8 @@
 #include "tool/checks/PatternChecks.h"
-#include "tool/checks/StyleWords.h"
+#include "tool/checks/StyleKeywords.h"
+#include "tool/text/DisplayText.h"
 #include "tool/text/Names.h"
-#include "tool/text/Words.h"
+#include "tool/text/Strings.h"
 
 #include "msglib/DecimalFormat.h"
 
@@ -52,8 +53,7 @@ void checkEncoding(const TracedText& style, Diagnostics& diagnostics) {
 
 void checkMarks(const TracedText& style, Diagnostics& diagnostics) {
     std::vector<Note> notes;
-    const auto word =
-        nearest(withoutBlanks(style.text()), {"integer"sv, "currency"sv, "percent"sv});
+    const auto word = nearest(trimmed(style.text()), {"integer"sv, "currency"sv, "percent"sv});
     if (word) {
         notes.push_back({"did you mean " + code(*word) + "?"});
     }
@@ -150,7 +150,7 @@ void checkDecimalStyles(const PatternTree& tree, Diagnostics& diagnostics) {
     for (const PatternText& text : tree.texts()) {
         for (const Placeholder& placeholder : text.placeholders) {
             if (placeholder.kind == PlaceholderKind::DecimalStyle &&
-                misreadStyleWord(placeholder).empty()) {
+                misreadStyleKeyword(placeholder).empty()) {
                 checkStyle(tree, text, placeholder, diagnostics);
             }
         }

@@ -1,7 +1,8 @@
 #include "tool/checks/PatternChecks.h"
-#include "tool/checks/StyleWords.h"
+#include "tool/checks/StyleKeywords.h"
+#include "tool/text/DisplayText.h"
 #include "tool/text/Names.h"
-#include "tool/text/Words.h"
+#include "tool/text/Strings.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +10,7 @@
 #include <string>
 #include <utility>
 
-// A pattern tree goes in, diagnostics come out: for placeholders whose index, type or style word
+// A pattern tree goes in, diagnostics come out: for placeholders whose index, type or style keyword
 // has another meaning than it seems to have. `checkPlaceholders` visits every placeholder of every
 // text and runs one small check for each part of it.
 
@@ -19,7 +20,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::array typeWords = {"number"sv, "date"sv, "time"sv, "choice"sv};
+constexpr std::array typeKeywords = {"number"sv, "date"sv, "time"sv, "choice"sv};
 
 /// A word that people write as a type, in lower case, and the correct form.
 struct Habit {
@@ -51,7 +52,7 @@ constexpr Habit habits[] = {
 
 /// Returns a note with the type that was probably meant by an unknown one.
 Note noteForType(const Placeholder& placeholder) {
-    const std::string word = lowerCase(withoutBlanks(placeholder.type.text()));
+    const std::string word = lowerCase(trimmed(placeholder.type.text()));
     const auto* const habit =
         std::find_if(std::begin(habits), std::end(habits),
                      [&word](const Habit& candidate) { return candidate.written == word; });
@@ -59,7 +60,7 @@ Note noteForType(const Placeholder& placeholder) {
         return habit->meant.empty() ? Note{"leave the type out"}
                                     : Note{"did you mean " + code(habit->meant) + "?"};
     }
-    if (const auto type = nearest(word, {typeWords.begin(), typeWords.end()})) {
+    if (const auto type = nearest(word, {typeKeywords.begin(), typeKeywords.end()})) {
         return {"did you mean " + code(*type) + "?"};
     }
     return {"the types are `number`, `date`, `time` and `choice`"};
@@ -72,7 +73,7 @@ void checkIndex(const Placeholder& placeholder, const PatternText& text, Diagnos
                            "there is no argument " + std::to_string(placeholder.index) +
                                ", so this fails whatever the arguments are");
     }
-    const std::string_view number = withoutBlanks(index);
+    const std::string_view number = trimmed(index);
     std::size_t end = !number.empty() && (number[0] == '-' || number[0] == '+') ? 1 : 0;
     while (end < number.size() && isDigit(number[end])) {
         ++end;
@@ -107,13 +108,13 @@ void checkType(const Placeholder& placeholder, Diagnostics& diagnostics) {
     }
 }
 
-void checkStyleWord(const Placeholder& placeholder, Diagnostics& diagnostics) {
-    const std::string word = misreadStyleWord(placeholder);
+void checkStyleKeyword(const Placeholder& placeholder, Diagnostics& diagnostics) {
+    const std::string word = misreadStyleKeyword(placeholder);
     if (word.empty()) {
         return;
     }
     const std::string_view type = placeholder.type.text();
-    const std::string_view owner = typeOfStyleWord(word);
+    const std::string_view owner = typeOfStyleKeyword(word);
     Note note = owner == type    ? Note{"did you mean " + code(word) + "?"}
                 : type == "time" ? Note{"leave the style out, or write a pattern such as `HH:mm`"}
                                  : Note{code(word) + " is a style of " + code(owner)};
@@ -175,7 +176,7 @@ void checkPlaceholders(const PatternTree& tree, Diagnostics& diagnostics) {
         for (const Placeholder& placeholder : text.placeholders) {
             checkIndex(placeholder, text, diagnostics);
             checkType(placeholder, diagnostics);
-            checkStyleWord(placeholder, diagnostics);
+            checkStyleKeyword(placeholder, diagnostics);
             checkDecimals(placeholder, drivers, diagnostics);
             checkPercent(placeholder, diagnostics);
         }

@@ -1,5 +1,6 @@
 #include "tool/checks/PatternChecks.h"
-#include "tool/text/Words.h"
+#include "tool/text/DisplayText.h"
+#include "tool/text/Strings.h"
 
 #include <string>
 #include <utility>
@@ -29,7 +30,7 @@ std::size_t insertLength(std::string_view text, std::size_t percent) {
         return 0;
     }
     if (rest[0] == '0') {
-        return withoutBlanks(rest.substr(1)).empty() ? 2 : 0;
+        return trimmed(rest.substr(1)).empty() ? 2 : 0;
     }
     if (rest[0] >= '1' && rest[0] <= '9') {
         return isLetterOrDigit(rest, 1) ? 0 : 2;

@@ -1,6 +1,7 @@
 #include "tool/checks/PatternChecks.h"
 #include "tool/pattern/Spelling.h"
-#include "tool/text/Words.h"
+#include "tool/text/DisplayText.h"
+#include "tool/text/Strings.h"
 
 #include "msglib/DecimalFormat.h"
 
@@ -26,7 +27,7 @@ std::string braceHint(char brace, std::size_t depth) {
 }
 
 std::vector<Note> notesForIndex(const SyntaxError& error, std::size_t depth) {
-    const std::string_view text = withoutBlanks(error.place.text());
+    const std::string_view text = trimmed(error.place.text());
     if (!text.empty() && std::all_of(text.begin(), text.end(), isDigit)) {
         return {{"the number is too large"}};
     }
@@ -45,7 +46,7 @@ std::vector<Note> notesForChoice(const SyntaxError& error) {
     if (position > 0 && position <= style.size() && style[position - 1] == '}') {
         return {{"the brace before it closes nothing, so it ends the choice as `|` does"}};
     }
-    if (withoutBlanks(style.substr(std::min(position, style.size()))).empty()) {
+    if (trimmed(style.substr(std::min(position, style.size()))).empty()) {
         return {{"after the last `|`, another choice is expected"}};
     }
     return {{"a choice is a number, `#` or `<`, and a text, as in `0#none`"}};

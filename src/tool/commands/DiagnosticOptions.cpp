@@ -3,7 +3,6 @@
 #include "tool/diagnostics/DiagnosticJson.h"
 #include "tool/diagnostics/DiagnosticText.h"
 #include "tool/text/CannotRun.h"
-#include "tool/text/Progress.h"
 #include "tool/text/Terminal.h"
 
 #include <CLI/CLI.hpp>

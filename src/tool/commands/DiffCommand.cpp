@@ -10,8 +10,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <utility>
@@ -35,13 +35,9 @@ Catalogue readText(const std::string& name, std::string bytes, const DiffOptions
     catalogues.push_back(readCatalogue(
         readSource(name, std::move(bytes), options.encoding, 0, diagnostics), diagnostics));
     checkIdentifiers(catalogues, diagnostics);
-    auto found = diagnostics.take();
-    found.erase(
-        std::remove_if(found.begin(), found.end(),
-                       [](const Diagnostic& entry) { return entry.severity != Severity::error; }),
-        found.end());
-    if (!found.empty()) {
-        std::fputs(textOf(found, options.output.isColoured(stderr)).c_str(), stderr);
+    const auto errors = errorsAmong(diagnostics.take());
+    if (!errors.empty()) {
+        std::fputs(textOf(errors, options.output.isColoured(stderr)).c_str(), stderr);
         throw CannotRun(name + ": a file with errors cannot be compared");
     }
     return std::move(catalogues.front());
@@ -49,14 +45,15 @@ Catalogue readText(const std::string& name, std::string bytes, const DiffOptions
 
 ExitStatus diff(const DiffOptions& options) {
     const std::string* const names[] = {&options.before, &options.after};
-    const std::string bytes[] = {readBytes(options.before), readBytes(options.after)};
+    std::string bytes[] = {readBytes(options.before), readBytes(options.after)};
     const bool areTexts = !holdsTables(bytes[0]) && !holdsTables(bytes[1]);
     std::vector<CatalogueVersion> versions;
     for (std::size_t side = 0; side < std::size(bytes); ++side) {
         if (holdsTables(bytes[side])) {
-            versions.emplace_back(readTables(*names[side], bytes[side]));
+            versions.emplace_back(readTables(*names[side], std::move(bytes[side])));
         } else {
-            versions.emplace_back(readText(*names[side], bytes[side], options), areTexts);
+            versions.emplace_back(readText(*names[side], std::move(bytes[side]), options),
+                                  areTexts);
         }
     }
     const auto changes = changesBetween(versions[0], versions[1]);

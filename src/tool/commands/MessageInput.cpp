@@ -9,8 +9,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
-#include <iostream>
 #include <utility>
 
 // The options name a file and perhaps one of its messages, or a pattern; a list of texts comes out.
@@ -53,13 +51,9 @@ void MessageInput::read() {
     } else {
         throw CannotRun("name a file or a --pattern");
     }
-    auto found = diagnostics.take();
-    found.erase(
-        std::remove_if(found.begin(), found.end(),
-                       [](const Diagnostic& one) { return one.severity != Severity::error; }),
-        found.end());
-    hasErrors_ = !found.empty();
-    diagnostics_.write(found);
+    const auto errors = errorsAmong(diagnostics.take());
+    hasErrors_ = !errors.empty();
+    diagnostics_.write(errors);
     if (pattern_) {
         return;
     }

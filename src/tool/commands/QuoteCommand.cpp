@@ -2,8 +2,8 @@
 #include "tool/commands/OutputOptions.h"
 #include "tool/pattern/Quoter.h"
 #include "tool/text/CannotRun.h"
+#include "tool/text/Strings.h"
 #include "tool/text/Unicode.h"
-#include "tool/text/Words.h"
 
 #include <CLI/CLI.hpp>
 
@@ -55,7 +55,7 @@ std::string limitOfFiles(const std::string& text) {
         return "a message text file cannot have a carriage return or Ctrl-Z in a text";
     }
     for (const std::string_view line : linesOf(text)) {
-        if (withoutBlanks(line) == ".") {
+        if (trimmed(line) == ".") {
             return "in a message text file, a line with \".\" alone ends the text";
         }
     }

@@ -6,9 +6,9 @@
 #include "tool/preview/SampleTable.h"
 #include "tool/text/ArgumentText.h"
 #include "tool/text/Colours.h"
+#include "tool/text/DisplayText.h"
 #include "tool/text/Progress.h"
 #include "tool/text/Unicode.h"
-#include "tool/text/Words.h"
 
 #include <CLI/CLI.hpp>
 

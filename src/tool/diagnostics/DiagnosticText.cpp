@@ -1,8 +1,8 @@
 #include "tool/diagnostics/DiagnosticText.h"
 
 #include "tool/text/Colours.h"
+#include "tool/text/DisplayText.h"
 #include "tool/text/Unicode.h"
-#include "tool/text/Words.h"
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 #include "tool/text/CannotRun.h"
 
 #include <algorithm>
+#include <functional>
 #include <tuple>
 #include <utility>
 
@@ -13,6 +14,10 @@
 namespace zem::msglib::tool {
 
 namespace {
+
+bool isError(const Diagnostic& diagnostic) noexcept {
+    return diagnostic.severity == Severity::error;
+}
 
 const Rule& ruleNamed(const std::string& name) {
     const Rule* rule = findRule(name);
@@ -138,10 +143,14 @@ void Diagnostics::keepFirstOfFiles() {
                        diagnostics_.end());
 }
 
+std::vector<Diagnostic> errorsAmong(std::vector<Diagnostic> diagnostics) {
+    const auto end = std::remove_if(diagnostics.begin(), diagnostics.end(), std::not_fn(isError));
+    diagnostics.erase(end, diagnostics.end());
+    return diagnostics;
+}
+
 bool hasErrors(const std::vector<Diagnostic>& diagnostics) {
-    return std::any_of(diagnostics.begin(), diagnostics.end(), [](const Diagnostic& diagnostic) {
-        return diagnostic.severity == Severity::error;
-    });
+    return std::any_of(diagnostics.begin(), diagnostics.end(), isError);
 }
 
 } // namespace zem::msglib::tool

@@ -86,6 +86,9 @@ private:
     std::vector<Allowance> allowances_; ///< in order once `take` has sorted them
 };
 
+/// Returns those diagnostics that are errors.
+std::vector<Diagnostic> errorsAmong(std::vector<Diagnostic> diagnostics);
+
 /// Returns whether one of the diagnostics is an error.
 bool hasErrors(const std::vector<Diagnostic>& diagnostics);
 

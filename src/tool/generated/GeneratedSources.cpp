@@ -1,6 +1,9 @@
 #include "tool/generated/GeneratedSources.h"
 
+#include "tool/text/Strings.h"
 #include "tool/text/Unicode.h"
+
+#include "platform/portable/TableLayout.h"
 
 #include <algorithm>
 #include <cctype>
@@ -16,9 +19,10 @@ namespace zem::msglib::tool {
 
 namespace {
 
+namespace layout = platform::layout;
+
 // In an embedded note, language and size come before the table, and padding to a multiple of 8
 // after it.
-constexpr std::size_t tableHeaderSize = 8;
 constexpr std::size_t alignment = 8;
 
 constexpr std::size_t bytesPerLine = 256;
@@ -75,10 +79,6 @@ std::string hexadecimalLanguage(std::uint32_t language) {
     return hexadecimal(language).substr(6);
 }
 
-bool isDigit(char byte) {
-    return byte >= '0' && byte <= '9';
-}
-
 bool isPlain(char byte) {
     return isAsciiWord(static_cast<unsigned char>(byte)) || byte == ' ';
 }
@@ -119,15 +119,18 @@ void appendBytes(std::string& out, std::string_view bytes) {
 /// the machine; the bytes of the table are not changed.
 void appendNote(std::string& out, std::uint32_t language, const std::string& table) {
     const std::size_t padded =
-        (tableHeaderSize + table.size() + alignment - 1) / alignment * alignment;
+        (layout::noteHeaderSize + table.size() + alignment - 1) / alignment * alignment;
     out.reserve(out.size() + 2 * table.size()); // half of the bytes need three or four characters
     out += "asm(R\"asm(\n"
            "    .pushsection .note.zem.msgtab, \"a\", %note\n"
            "    .balign 8\n"
-           "    .4byte 11, " +
-           std::to_string(padded) +
-           ", 0x4d544231\n"
-           "    .asciz \"zem.msglib\"\n"
+           "    .4byte " +
+           std::to_string(layout::noteName.size()) + ", " + std::to_string(padded) + ", " +
+           hexadecimal(layout::noteType) +
+           "\n"
+           "    .asciz \"" +
+           layout::noteName.data() +
+           "\"\n"
            "    .balign 8\n"
            "    .4byte " +
            std::to_string(language) + ", " + std::to_string(table.size()) + "\n";

@@ -2,6 +2,8 @@
 
 #include "tool/text/Unicode.h"
 
+#include "platform/portable/TableLayout.h"
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -14,10 +16,9 @@ namespace zem::msglib::tool {
 
 namespace {
 
-constexpr std::size_t countSize = 4;
-constexpr std::size_t blockSize = 12;
+using namespace platform::layout;
+
 constexpr std::size_t entryAlignment = 4;
-constexpr std::uint32_t utf16Flag = 1;
 
 /// A run of consecutive identifiers, and the offset of the first entry.
 struct Block {

@@ -1,13 +1,13 @@
 #include "tool/preview/Explanation.h"
 
 #include "tool/pattern/ChoiceIntervals.h"
-#include "tool/preview/FormatWords.h"
-#include "tool/text/Words.h"
+#include "tool/preview/FormatDescription.h"
+#include "tool/text/DisplayText.h"
 
 #include <algorithm>
 #include <vector>
 
-// A pattern tree goes in, lines of words come out. The tree is visited in the order of the pattern:
+// A pattern tree goes in, lines of English come out. The tree is visited in the order of the pattern:
 // static text, placeholders, and the entries of choices. The texts around the current one are kept
 // in frames, so the machine stack does not grow with the nesting of a pattern.
 
@@ -114,15 +114,15 @@ private:
         if (vanished.empty()) {
             return;
         }
-        std::string words;
+        std::string names;
         const std::size_t named = std::min(vanished.size(), mostVanished);
         for (std::size_t number = 0; number < named; ++number) {
-            words += (number == 0 ? " " : ", ") + nameOf(*written.file, vanished[number]);
+            names += (number == 0 ? " " : ", ") + nameOf(*written.file, vanished[number]);
         }
         if (named < vanished.size()) {
-            words += " and " + std::to_string(vanished.size() - named) + " more";
+            names += " and " + std::to_string(vanished.size() - named) + " more";
         }
-        line(1, "written `" + visibleLine(written.text()) + "`; quoting takes away" + words);
+        line(1, "written `" + visibleLine(written.text()) + "`; quoting takes away" + names);
     }
 
     static std::string nameOf(const SourceFile& file, std::size_t offset) {
@@ -144,10 +144,10 @@ private:
             return;
         }
         ++frame.placeholder;
-        const FormatWords words = formatWordsOf(placeholder);
-        line(0,
-             argument + (placeholder.kind == PlaceholderKind::Plain ? " " : ": ") + words.summary);
-        for (const std::string& detail : words.details) {
+        const FormatDescription description = describeFormat(placeholder);
+        line(0, argument + (placeholder.kind == PlaceholderKind::Plain ? " " : ": ") +
+                    description.summary);
+        for (const std::string& detail : description.details) {
             line(1, detail);
         }
     }
@@ -162,7 +162,7 @@ private:
             return;
         }
         const std::size_t number = frame.entry++;
-        line(1, intervalWords(choice, number, frame.intervals[number]) + ':');
+        line(1, describeInterval(choice, number, frame.intervals[number]) + ':');
         const Place source = sourceOf(choice, number);
         frames_.push_back({choice.entries[number].text, source.offset, source.end()});
     }
@@ -187,13 +187,13 @@ private:
     /// Writes a line of the innermost text.
     ///
     /// @param inside  additional levels of indentation
-    void line(std::size_t inside, const std::string& words) {
-        const std::size_t depth = text().depth;
+    void line(std::size_t inside, const std::string& text) {
+        const std::size_t depth = this->text().depth;
         out_.append(4 * std::min(depth, mostIndented) + 2 * inside, ' ');
         if (depth > mostIndented) {
             out_ += colours_.note("[level " + std::to_string(depth) + "] ");
         }
-        out_ += words;
+        out_ += text;
         out_ += '\n';
     }
 

@@ -3,6 +3,8 @@
 #include "tool/catalogue/Catalogue.h"
 #include "tool/text/CannotRun.h"
 
+#include "platform/portable/TableLayout.h"
+
 #include <ar.h>
 #include <boost/endian/conversion.hpp>
 #include <gelf.h>
@@ -22,11 +24,8 @@ namespace zem::msglib::tool {
 
 namespace {
 
+namespace layout = platform::layout;
 using platform::Bytes;
-
-constexpr char tableName[] = "zem.msglib"; // in the note, with its terminator
-constexpr std::uint32_t tableType = 0x4d544231;
-constexpr std::size_t tableHeaderSize = 8;
 
 // Linkers produce note segments that overlap, but not more of them than this.
 constexpr std::uint64_t mostReadings = 8;
@@ -120,8 +119,8 @@ private:
                 refuse("its notes are damaged");
             }
             const std::string_view rest = std::string_view(bytes_).substr(offset, size);
-            if (note.n_type == tableType && rest.substr(nameAt, note.n_namesz) ==
-                                                std::string_view(tableName, sizeof tableName)) {
+            if (note.n_type == layout::noteType &&
+                rest.substr(nameAt, note.n_namesz) == layout::noteName) {
                 readTable(offset + contentAt, note.n_descsz);
             }
             at = next;
@@ -136,11 +135,11 @@ private:
         const Bytes content = Bytes(bytes_.data(), bytes_.size()).part(offset, size);
         const std::uint32_t language = numberAt(content, 0);
         const std::uint32_t length = numberAt(content, 4);
-        if (!content.holds(tableHeaderSize, length)) {
+        if (!content.holds(layout::noteHeaderSize, length)) {
             refuse("a table of messages is longer than its note");
         }
         try {
-            TableTexts texts = decodeTable(content.part(tableHeaderSize, length));
+            TableTexts texts = decodeTable(content.part(layout::noteHeaderSize, length));
             tables_[language].merge(texts); // this keeps the first text of each message
         } catch (const BrokenTable& broken) {
             throw CannotRun(name_ + ": the table of messages in the language " +

@@ -3,6 +3,7 @@
 #include "tool/catalogue/Catalogue.h"
 
 #include "platform/MessageTables.h"
+#include "platform/portable/TableLayout.h"
 #include "platform/portable/TableReader.h"
 
 // The bytes of a table go in, its texts come out. The blocks are read in order, then the entries of
@@ -13,12 +14,8 @@ namespace zem::msglib::tool {
 
 namespace {
 
+using namespace platform::layout;
 using platform::Bytes;
-
-constexpr std::size_t countSize = 4;
-constexpr std::size_t blockSize = 12;
-constexpr std::size_t headerSize = 4;
-constexpr std::uint16_t utf16Flag = 1;
 
 std::string utf8Of(const platform::MessageText& text) {
     std::u16string units(text.length(), u'\0');
@@ -71,7 +68,7 @@ private:
         const auto refuse = [id](const char* reason) {
             throw BrokenTable("its entry of " + hexadecimal(id) + reason);
         };
-        if (offset < end || length < headerSize || !table_.holds(offset, length)) {
+        if (offset < end || length < entryHeaderSize || !table_.holds(offset, length)) {
             refuse(" lies outside of it");
         }
         if (flags > utf16Flag || (flags == utf16Flag && length % 2 != 0)) {
@@ -81,8 +78,9 @@ private:
         if (taken_ > table_.size()) {
             refuse(" overlaps others");
         }
-        const platform::MessageText text(table_.part(offset + headerSize, length - headerSize),
-                                         flags == utf16Flag ? 2U : 1U);
+        const platform::MessageText text(
+            table_.part(offset + entryHeaderSize, length - entryHeaderSize),
+            flags == utf16Flag ? 2U : 1U);
         if (!text.isEmpty()) {
             texts_.emplace_hint(texts_.end(), id, utf8Of(text));
         }

@@ -19,7 +19,7 @@ public:
 /// The texts of messages by identifier, in UTF-8, with the line ends of the table, which are CR LF.
 using TableTexts = std::map<std::uint32_t, std::string>;
 
-/// Returns whether bytes begin with the number of blocks of a table and have room for them.
+/// Returns whether bytes begin with the number of blocks of a table and are long enough for them.
 bool mayBeTable(platform::Bytes bytes) noexcept;
 
 /// Decodes a message table in time linear in its size. Any bytes are safe.

@@ -2,7 +2,8 @@
 
 #include "tool/catalogue/Catalogue.h"
 #include "tool/text/Colours.h"
-#include "tool/text/Words.h"
+#include "tool/text/DisplayText.h"
+#include "tool/text/Strings.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,7 +1,7 @@
 #include "tool/text/ArgumentText.h"
 
 #include "tool/text/CannotRun.h"
-#include "tool/text/Words.h"
+#include "tool/text/Strings.h"
 
 #include "date/CalendarTime.h"
 #include "platform/LocaleServices.h"

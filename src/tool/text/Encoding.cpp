@@ -53,13 +53,13 @@ public:
         while (reason == E2BIG) {
             std::array<char, 1U << 14> buffer;
             char* end = buffer.data();
-            std::size_t room = buffer.size();
+            std::size_t available = buffer.size();
             // A last call without input writes the bytes that a stateful encoding still holds.
             const bool isLast = left == 0;
             const std::size_t result =
-                iconv(handle_, isLast ? nullptr : &position, &left, &end, &room);
+                iconv(handle_, isLast ? nullptr : &position, &left, &end, &available);
             reason = result == failed ? errno : isLast ? 0 : E2BIG;
-            out.append(buffer.data(), buffer.size() - room);
+            out.append(buffer.data(), buffer.size() - available);
         }
         in.remove_prefix(in.size() - left);
         return reason;

@@ -1,15 +1,14 @@
 #include "platform/portable/NoteReader.h"
 
+#include "platform/portable/TableLayout.h"
+
 #include <cstring>
 
 namespace zem::msglib::platform {
 
 namespace {
 
-constexpr char tableName[] = "zem.msglib";
-constexpr std::uint32_t tableType = 0x4d544231;
-constexpr std::size_t noteHeaderSize = 12;
-constexpr std::size_t tableHeaderSize = 8;
+constexpr std::size_t elfHeaderSize = 12; // the sizes of name and content, and the type
 
 /// Reads a number in the byte order of the machine, in which the assembler writes it.
 std::uint32_t nativeU32(Bytes bytes, std::size_t offset) noexcept {
@@ -21,16 +20,16 @@ std::uint32_t nativeU32(Bytes bytes, std::size_t offset) noexcept {
 }
 
 bool isTable(Bytes name, std::uint32_t type) noexcept {
-    return type == tableType && name.size() == sizeof tableName &&
-           std::memcmp(name.data(), tableName, sizeof tableName) == 0;
+    return type == layout::noteType && name.size() == layout::noteName.size() &&
+           std::memcmp(name.data(), layout::noteName.data(), name.size()) == 0;
 }
 
 MessageText findInTable(Bytes descriptor, std::uint32_t languageId,
                         std::uint32_t messageId) noexcept {
-    if (!descriptor.holds(0, tableHeaderSize) || nativeU32(descriptor, 0) != languageId) {
+    if (!descriptor.holds(0, layout::noteHeaderSize) || nativeU32(descriptor, 0) != languageId) {
         return {};
     }
-    const Bytes table = descriptor.part(tableHeaderSize, nativeU32(descriptor, 4));
+    const Bytes table = descriptor.part(layout::noteHeaderSize, nativeU32(descriptor, 4));
     return TableReader(table).find(messageId);
 }
 
@@ -46,12 +45,12 @@ MessageText findInNotes(Bytes notes, std::size_t alignment, std::uint32_t langua
         const Bytes rest = notes.from(static_cast<std::size_t>(offset));
         const std::uint32_t nameSize = nativeU32(rest, 0);
         const std::uint32_t descriptorSize = nativeU32(rest, 4);
-        const std::uint64_t descriptorAt = aligned(noteHeaderSize + std::uint64_t{nameSize});
+        const std::uint64_t descriptorAt = aligned(elfHeaderSize + std::uint64_t{nameSize});
         const std::uint64_t end = descriptorAt + descriptorSize;
         if (end > rest.size()) {
             return {};
         }
-        if (isTable(rest.part(noteHeaderSize, nameSize), nativeU32(rest, 8))) {
+        if (isTable(rest.part(elfHeaderSize, nameSize), nativeU32(rest, 8))) {
             const Bytes descriptor =
                 rest.part(static_cast<std::size_t>(descriptorAt), descriptorSize);
             const MessageText text = findInTable(descriptor, languageId, messageId);

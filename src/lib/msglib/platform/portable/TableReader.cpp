@@ -1,5 +1,7 @@
 #include "platform/portable/TableReader.h"
 
+#include "platform/portable/TableLayout.h"
+
 #include <boost/endian/conversion.hpp>
 
 #include <algorithm>
@@ -13,11 +15,7 @@ namespace zem::msglib::platform {
 
 namespace {
 
-constexpr std::size_t countSize = 4;
-constexpr std::size_t blockSize = 12;
-constexpr std::size_t entryHeaderSize = 4;
-
-constexpr std::uint16_t utf16Flag = 1;
+using namespace layout;
 
 constexpr std::uint32_t unitsAtOnce = 8;
 

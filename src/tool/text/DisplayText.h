@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace zem::msglib::tool {
 
@@ -19,20 +18,5 @@ std::string visibleLine(std::string_view bytes);
 /// Returns valid UTF-8 with U+FFFD in place of each control character except tabs, so a terminal
 /// only shows it.
 std::string visible(std::string_view text);
-
-/// Returns the lines of a text without their ends, which are LF or CR LF. The last one need not
-/// have an end.
-std::vector<std::string_view> linesOf(std::string_view text);
-
-/// Returns the text without blanks and line ends at its start and end.
-std::string_view withoutBlanks(std::string_view text) noexcept;
-
-constexpr bool isDigit(char byte) noexcept {
-    return byte >= '0' && byte <= '9';
-}
-
-constexpr bool isLetter(char byte) noexcept {
-    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
 
 } // namespace zem::msglib::tool

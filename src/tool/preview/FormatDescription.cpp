@@ -1,7 +1,7 @@
-#include "tool/preview/FormatWords.h"
+#include "tool/preview/FormatDescription.h"
 
 #include "tool/text/ArgumentText.h"
-#include "tool/text/Words.h"
+#include "tool/text/DisplayText.h"
 
 #include "date/DateReader.h"
 #include "date/LocaleDatePattern.h"
@@ -52,7 +52,7 @@ std::string byKind(const WrittenArgument& argument) {
     return argument.text + " shows \"" + text + '"';
 }
 
-std::string kindWords() {
+std::string describeKind() {
     return "by its kind: " + byKind(readArgument("1234")) + ", " + byKind(readArgument("1234.5")) +
            ", a text stays as it is";
 }
@@ -62,7 +62,7 @@ std::string inBackticks(std::string_view text) {
 }
 
 /// Returns a style, and its written form if quoting changes it.
-std::string styleWords(const Placeholder& placeholder) {
+std::string describeStyle(const Placeholder& placeholder) {
     const std::string_view style = placeholder.style.text();
     const std::size_t begin = placeholder.type.place().end() + 1; // after the comma
     const std::size_t end = placeholder.whole.end() - 1;
@@ -93,7 +93,7 @@ std::string count(std::size_t number, const std::string& noun) {
     return (number == 0 ? "no" : std::to_string(number)) + ' ' + noun + (number == 1 ? "" : "s");
 }
 
-std::string decimalWords(const DigitLayout& layout) {
+std::string describeDecimals(const DigitLayout& layout) {
     const std::size_t least = layout.minimumFractionDigits;
     const std::size_t most = layout.maximumFractionDigits;
     if (least == most) {
@@ -102,46 +102,46 @@ std::string decimalWords(const DigitLayout& layout) {
     return (least == 0 ? "up to " : std::to_string(least) + " to ") + count(most, "decimal");
 }
 
-std::string digitWords(const DecimalFormat& format) {
+std::string describeDigits(const DecimalFormat& format) {
     const DecimalForm form(format);
     const DigitLayout layout = form.digitLayout();
-    std::string words =
+    std::string description =
         layout.groupSize == 0 ? "no groups" : "groups of " + count(layout.groupSize, "digit");
     if (layout.minimumIntegerDigits != 1) {
-        words +=
+        description +=
             layout.minimumIntegerDigits == 0
                 ? ", no digit before the point for numbers below 1"
                 : ", at least " + count(layout.minimumIntegerDigits, "digit") + " before the point";
     }
-    words += ", " + decimalWords(layout);
+    description += ", " + describeDecimals(layout);
     std::string exponent;
     TextOutput::to(exponent, [&](TextOutput& out) { form.appendExponent(1, out); });
-    words += exponent.empty() ? "" : ", with an exponent";
-    return words + (form.multiplier() == 100 ? ", multiplied by 100" : "");
+    description += exponent.empty() ? "" : ", with an exponent";
+    return description + (form.multiplier() == 100 ? ", multiplied by 100" : "");
 }
 
-FormatWords numberWords(const Placeholder& placeholder) {
+FormatDescription describeNumber(const Placeholder& placeholder) {
     const bool isPattern = placeholder.kind == PlaceholderKind::DecimalStyle;
     const std::string_view style = placeholder.style.text();
     const LocaleNumber number = localeNumber(style);
-    FormatWords words;
+    FormatDescription description;
     if (isPattern) {
-        words.summary = "a number by " + styleWords(placeholder);
+        description.summary = "a number by " + describeStyle(placeholder);
     } else {
-        words.summary =
+        description.summary =
             (style.empty() ? "a number" : "a number in the style " + inBackticks(style)) +
             ", which is " + inBackticks(localePattern(number));
     }
     try {
         const DecimalFormat format(isPattern ? std::string(style) : number.pattern(),
                                    DecimalFormatSymbols(std::locale::classic()));
-        words.details.push_back(digitWords(format));
-        words.details.push_back(example(placeholder, readArgument("1234.5")) + ", " +
-                                example(placeholder, readArgument("-0.25")));
+        description.details.push_back(describeDigits(format));
+        description.details.push_back(example(placeholder, readArgument("1234.5")) + ", " +
+                                      example(placeholder, readArgument("-0.25")));
     } catch (const std::runtime_error& failure) {
-        words.details = {std::string("does not compile: ") + failure.what()};
+        description.details = {std::string("does not compile: ") + failure.what()};
     }
-    return words;
+    return description;
 }
 
 // Dates.
@@ -149,7 +149,7 @@ FormatWords numberWords(const Placeholder& placeholder) {
 struct FieldForm {
     char letter;
     std::size_t length; ///< of this form, also for longer runs up to the next row of the letter
-    const char* words;
+    const char* description;
 };
 
 constexpr FieldForm fieldForms[] = {
@@ -177,14 +177,14 @@ constexpr FieldForm fieldForms[] = {
     {'t', 2, "marker of morning or afternoon"},
 };
 
-const char* fieldWords(std::string_view run) {
-    const char* words = "";
+const char* describeField(std::string_view run) {
+    const char* description = "";
     for (const FieldForm& form : fieldForms) {
         if (form.letter == run.front() && form.length <= run.size()) {
-            words = form.words;
+            description = form.description;
         }
     }
-    return words;
+    return description;
 }
 
 std::string localeDatePattern(std::string_view type, std::string_view style) {
@@ -211,30 +211,31 @@ std::vector<std::string> fieldsOf(std::string_view pattern) {
             return;
         }
         endText();
-        lines.push_back(inBackticks(piece) + " " + fieldWords(piece) + ": " +
+        lines.push_back(inBackticks(piece) + " " + describeField(piece) + ": " +
                         shownBy("date", piece, exampleTime));
     });
     endText();
     return lines;
 }
 
-FormatWords dateWords(const Placeholder& placeholder) {
+FormatDescription describeDate(const Placeholder& placeholder) {
     const std::string_view type = placeholder.type.text();
     const std::string_view style = placeholder.style.text();
-    FormatWords words;
+    FormatDescription description;
     if (placeholder.kind == PlaceholderKind::DateStyle) {
-        words.summary = "a date or time by " + styleWords(placeholder);
-        words.details = fieldsOf(style);
+        description.summary = "a date or time by " + describeStyle(placeholder);
+        description.details = fieldsOf(style);
     } else {
         const std::string pattern = localeDatePattern(type, style);
-        words.summary = (type == "time"  ? "a time of day"
-                         : style.empty() ? "a date"
-                                         : "a date in the style " + inBackticks(style)) +
-                        ", which is " + inBackticks(pattern);
-        words.details = fieldsOf(pattern);
+        description.summary = (type == "time"  ? "a time of day"
+                               : style.empty() ? "a date"
+                                               : "a date in the style " + inBackticks(style)) +
+                              ", which is " + inBackticks(pattern);
+        description.details = fieldsOf(pattern);
     }
-    words.details.insert(words.details.begin(), example(placeholder, timeArgument(exampleTime)));
-    return words;
+    description.details.insert(description.details.begin(),
+                               example(placeholder, timeArgument(exampleTime)));
+    return description;
 }
 
 // Intervals.
@@ -243,30 +244,30 @@ std::string writtenNumber(const ChoiceEntry& entry) {
     return numberArgument(writtenLimit(entry)).text;
 }
 
-std::string lowerWords(const ChoiceEntry& entry) {
+std::string describeLower(const ChoiceEntry& entry) {
     return (entry.separator == '#' ? "from " : "above ") + writtenNumber(entry);
 }
 
-std::string upperWords(const ChoiceEntry& entry) {
+std::string describeUpper(const ChoiceEntry& entry) {
     return (entry.separator == '#' ? "below " : "up to ") + writtenNumber(entry);
 }
 
 } // namespace
 
-FormatWords formatWordsOf(const Placeholder& placeholder) {
+FormatDescription describeFormat(const Placeholder& placeholder) {
     switch (placeholder.kind) {
     case PlaceholderKind::Number:
-    case PlaceholderKind::DecimalStyle: return numberWords(placeholder);
+    case PlaceholderKind::DecimalStyle: return describeNumber(placeholder);
     case PlaceholderKind::Date:
-    case PlaceholderKind::DateStyle: return dateWords(placeholder);
+    case PlaceholderKind::DateStyle: return describeDate(placeholder);
     case PlaceholderKind::Unknown:
-        return {inBackticks(placeholder.type.text()) + " is not a type", {kindWords()}};
-    default: return {kindWords(), {}};
+        return {inBackticks(placeholder.type.text()) + " is not a type", {describeKind()}};
+    default: return {describeKind(), {}};
     }
 }
 
-std::string intervalWords(const Placeholder& choice, std::size_t entry,
-                          const ChoiceInterval& interval) {
+std::string describeInterval(const Placeholder& choice, std::size_t entry,
+                             const ChoiceInterval& interval) {
     const auto& entries = choice.entries;
     const NumberInterval& numbers = interval.numbers;
     if (numbers.isEmpty()) {
@@ -277,18 +278,20 @@ std::string intervalWords(const Placeholder& choice, std::size_t entry,
         return "every number";
     }
     if (!numbers.low) {
-        const std::string upper = upperWords(entries[interval.high]);
-        return interval.high == entry ? upper
-                                      : lowerWords(own) + ", " + upper + ", and everything lower";
+        const std::string upper = describeUpper(entries[interval.high]);
+        return interval.high == entry
+                   ? upper
+                   : describeLower(own) + ", " + upper + ", and everything lower";
     }
     const ChoiceEntry& low = entries[interval.low];
     if (!numbers.high) {
-        return lowerWords(low);
+        return describeLower(low);
     }
     const ChoiceEntry& high = entries[interval.high];
     const bool isOne =
         low.separator == '#' && high.separator != '#' && writtenLimit(low) == writtenLimit(high);
-    return isOne ? "exactly " + writtenNumber(low) : lowerWords(low) + ", " + upperWords(high);
+    return isOne ? "exactly " + writtenNumber(low)
+                 : describeLower(low) + ", " + describeUpper(high);
 }
 
 } // namespace zem::msglib::tool

@@ -1,7 +1,7 @@
-#include "tool/checks/StyleWords.h"
+#include "tool/checks/StyleKeywords.h"
 
 #include "tool/text/Names.h"
-#include "tool/text/Words.h"
+#include "tool/text/Strings.h"
 
 #include <algorithm>
 
@@ -9,12 +9,12 @@ namespace zem::msglib::tool {
 
 namespace {
 
-struct StyleWord {
+struct StyleKeyword {
     std::string_view word;
     std::string_view type;
 };
 
-constexpr StyleWord styleWords[] = {
+constexpr StyleKeyword styleKeywords[] = {
     {"integer", "number"}, {"currency", "number"}, {"percent", "number"}, {"short", "date"},
     {"medium", "date"},    {"long", "date"},       {"full", "date"},
 };
@@ -23,21 +23,21 @@ constexpr std::size_t longestStyle = 64; // with blanks
 
 } // namespace
 
-std::string_view typeOfStyleWord(std::string_view word) noexcept {
+std::string_view typeOfStyleKeyword(std::string_view word) noexcept {
     const auto* const found =
-        std::find_if(std::begin(styleWords), std::end(styleWords),
-                     [word](const StyleWord& candidate) { return candidate.word == word; });
-    return found == std::end(styleWords) ? std::string_view() : found->type;
+        std::find_if(std::begin(styleKeywords), std::end(styleKeywords),
+                     [word](const StyleKeyword& candidate) { return candidate.word == word; });
+    return found == std::end(styleKeywords) ? std::string_view() : found->type;
 }
 
-std::string misreadStyleWord(const Placeholder& placeholder) {
+std::string misreadStyleKeyword(const Placeholder& placeholder) {
     const bool isPattern = placeholder.kind == PlaceholderKind::DecimalStyle ||
                            placeholder.kind == PlaceholderKind::DateStyle;
     if (!isPattern || placeholder.style.size() > longestStyle) {
         return {};
     }
-    std::string word = lowerCase(withoutBlanks(placeholder.style.text()));
-    return typeOfStyleWord(word).empty() ? std::string() : word;
+    std::string word = lowerCase(trimmed(placeholder.style.text()));
+    return typeOfStyleKeyword(word).empty() ? std::string() : word;
 }
 
 } // namespace zem::msglib::tool

@@ -9,19 +9,19 @@
 namespace zem::msglib::tool {
 
 /// The format of a placeholder in words.
-struct FormatWords {
+struct FormatDescription {
     std::string summary;              ///< without the argument, such as "a number by `0.0`"
     std::vector<std::string> details; ///< lines of their own
 };
 
 /// Describes any placeholder except a choice: the pattern of a style word, groups and digits of
 /// numbers, the fields of dates, each with an example that the library renders.
-FormatWords formatWordsOf(const Placeholder& placeholder);
+FormatDescription describeFormat(const Placeholder& placeholder);
 
 /// Describes when an entry of a choice is chosen: `from 1, below 2`.
 ///
 /// @param interval  of this entry
-std::string intervalWords(const Placeholder& choice, std::size_t entry,
-                          const ChoiceInterval& interval);
+std::string describeInterval(const Placeholder& choice, std::size_t entry,
+                             const ChoiceInterval& interval);
 
 } // namespace zem::msglib::tool

@@ -125,11 +125,11 @@ void appendNote(std::string& out, std::uint32_t language, const std::string& tab
            "    .pushsection .note.zem.msgtab, \"a\", %note\n"
            "    .balign 8\n"
            "    .4byte " +
-           std::to_string(layout::noteName.size()) + ", " + std::to_string(padded) + ", " +
+           std::to_string(sizeof layout::noteName) + ", " + std::to_string(padded) + ", " +
            hexadecimal(layout::noteType) +
            "\n"
            "    .asciz \"" +
-           layout::noteName.data() +
+           layout::noteName +
            "\"\n"
            "    .balign 8\n"
            "    .4byte " +

@@ -120,7 +120,8 @@ private:
             }
             const std::string_view rest = std::string_view(bytes_).substr(offset, size);
             if (note.n_type == layout::noteType &&
-                rest.substr(nameAt, note.n_namesz) == layout::noteName) {
+                rest.substr(nameAt, note.n_namesz) ==
+                    std::string_view(layout::noteName, sizeof layout::noteName)) {
                 readTable(offset + contentAt, note.n_descsz);
             }
             at = next;

@@ -20,8 +20,8 @@ std::uint32_t nativeU32(Bytes bytes, std::size_t offset) noexcept {
 }
 
 bool isTable(Bytes name, std::uint32_t type) noexcept {
-    return type == layout::noteType && name.size() == layout::noteName.size() &&
-           std::memcmp(name.data(), layout::noteName.data(), name.size()) == 0;
+    return type == layout::noteType && name.size() == sizeof layout::noteName &&
+           std::memcmp(name.data(), layout::noteName, sizeof layout::noteName) == 0;
 }
 
 MessageText findInTable(Bytes descriptor, std::uint32_t languageId,

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 
 /// The numbers in the layout of message tables, which `TableReader` describes, and of the notes
 /// that contain them in ELF modules, which `findInNotes` describes. Sizes are in bytes.
@@ -13,8 +12,8 @@ constexpr std::size_t blockSize = 12;
 constexpr std::size_t entryHeaderSize = 4;
 constexpr std::uint16_t utf16Flag = 1;
 
-/// The name of a note, with its terminator.
-constexpr std::string_view noteName{"zem.msglib", 11};
+/// The name of a note, whose size includes the terminator.
+constexpr char noteName[] = "zem.msglib";
 constexpr std::uint32_t noteType = 0x4d544231;
 constexpr std::size_t noteHeaderSize = 8;
 

@@ -23,16 +23,15 @@ TEST_F(CheckCommand, ReportsWrongCatalogues) {
     const std::string wrong = EXAMPLES_FOLDER "/wrong/";
     for (const char* const name : {"FirstMistakes", "WrongMessages"}) {
         const Outcome outcome =
-            run("cp '" + wrong + name + ".mc' . && " PROGRAM " check " + name + ".mc");
+            run("cp " + quoted(wrong + name + ".mc") + " . && msglib check " + name + ".mc");
         EXPECT_EQ(outcome.output, contentOf(wrong + name + ".output"));
     }
 }
 
 TEST_F(CheckCommand, AcceptsTheExamples) {
     const std::string desktop = EXAMPLES_FOLDER "/desktop/";
-    const Outcome outcome =
-        run(PROGRAM " check '" + desktop + "DesktopMessages.mc' '" + desktop +
-            "backup/BackupMessages.mc' '" + desktop + "ledger/LedgerMessages.mc'");
+    const Outcome outcome = run("cd " + quoted(desktop) + " && msglib check DesktopMessages.mc" +
+                                " backup/BackupMessages.mc ledger/LedgerMessages.mc");
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.status, 0);
 }
@@ -41,7 +40,7 @@ TEST_F(CheckCommand, AcceptsTheExamples) {
 TEST_F(CheckCommand, ComparesTranslationsWhereverTheyAre) {
     write("English.mc", "MessageId=1 Language=English\n{0} {1}\n.\n");
     write("German.mc", "LanguageNames=(German=0x407:G)\nMessageId=1 Language=German\n{0} {2}\n.\n");
-    const Outcome outcome = run(PROGRAM " check English.mc German.mc --allow language-unused");
+    const Outcome outcome = run("msglib check English.mc German.mc --allow language-unused");
     EXPECT_EQ(outcome.output, "German.mc:3:6: warning: the text in 0x409 does not use argument 2 "
                               "[translation-arguments]\n"
                               "    3 | {0} {2}\n"
@@ -49,7 +48,7 @@ TEST_F(CheckCommand, ComparesTranslationsWhereverTheyAre) {
 }
 
 TEST_F(CheckCommand, ChecksPatternsOutsideOfCatalogues) {
-    const Outcome pattern = run(PROGRAM " check --pattern '{0}' --pattern '{x}'");
+    const Outcome pattern = run("msglib check --pattern '{0}' --pattern '{x}'");
     EXPECT_EQ(pattern.output, "pattern:1:2: error: Illegal argument in format string [syntax]\n"
                               "    1 | {x}\n"
                               "      |  ^\n"
@@ -67,25 +66,25 @@ TEST_F(CheckCommand, ChecksPatternsOutsideOfCatalogues) {
         "    4 | {0,Number}\n"
         "      |    ^~~~~~\n"
         "patterns:4:4: note: did you mean `number`?\n";
-    EXPECT_EQ(run(PROGRAM " check --lines patterns").output, found);
-    EXPECT_EQ(run(PROGRAM " check --lines - < patterns").status, 1);
-    EXPECT_EQ(run(PROGRAM " check --pattern \"$(printf 'a\\344')\"").status, 1);
+    EXPECT_EQ(run("msglib check --lines patterns").output, found);
+    EXPECT_EQ(run("msglib check --lines - < patterns").status, 1);
+    EXPECT_EQ(run("msglib check --pattern \"$(printf 'a\\344')\"").status, 1);
 }
 
 TEST_F(CheckCommand, ObeysAllowAndDeny) {
-    EXPECT_EQ(run(PROGRAM " check --pattern '{0,Number}'").status, 0);
-    EXPECT_EQ(run(PROGRAM " check --pattern '{0,Number}' --deny warnings").status, 1);
-    EXPECT_EQ(run(PROGRAM " check --pattern '{0,Number}' --deny unknown-type").status, 1);
-    EXPECT_EQ(run(PROGRAM " check --pattern '{0,Number}' --allow unknown-type").output, "");
-    EXPECT_EQ(run(PROGRAM " check --pattern '{x}' --allow file-syntax").status, 2);
-    EXPECT_EQ(run(PROGRAM " check --pattern '{0}{2}'").output, "");
-    EXPECT_EQ(run(PROGRAM " check --pattern '{0}{2}' --deny unused-argument").status, 1);
+    EXPECT_EQ(run("msglib check --pattern '{0,Number}'").status, 0);
+    EXPECT_EQ(run("msglib check --pattern '{0,Number}' --deny warnings").status, 1);
+    EXPECT_EQ(run("msglib check --pattern '{0,Number}' --deny unknown-type").status, 1);
+    EXPECT_EQ(run("msglib check --pattern '{0,Number}' --allow unknown-type").output, "");
+    EXPECT_EQ(run("msglib check --pattern '{x}' --allow file-syntax").status, 2);
+    EXPECT_EQ(run("msglib check --pattern '{0}{2}'").output, "");
+    EXPECT_EQ(run("msglib check --pattern '{0}{2}' --deny unused-argument").status, 1);
 }
 
 TEST_F(CheckCommand, AllowsRulesInOneMessage) {
     const std::string message = "MessageId=\nLanguage=English\nPress 'y' or %1 or %2.\n.\n";
     write("A.mc", "; // msglib: allow quote-vanishes foreign-insert\n" + message + message);
-    const Outcome outcome = run(PROGRAM " check A.mc --format msvc");
+    const Outcome outcome = run("msglib check A.mc --format msvc");
     EXPECT_EQ(outcome.output,
               "A.mc(8,7): warning quote-vanishes: apostrophes around one character quote it and "
               "are not shown\n"
@@ -95,26 +94,25 @@ TEST_F(CheckCommand, AllowsRulesInOneMessage) {
 }
 
 TEST_F(CheckCommand, ExplainsRules) {
-    EXPECT_NE(run(PROGRAM " rules").output.find("\nchoice-quote "), std::string::npos);
-    EXPECT_NE(run(PROGRAM " explain-rule syntax").output.find("{0,number,0 EUR}"),
-              std::string::npos);
-    const Outcome unknown = run(PROGRAM " explain-rule choice-qoute");
+    EXPECT_NE(run("msglib rules").output.find("\nchoice-quote "), std::string::npos);
+    EXPECT_NE(run("msglib explain-rule syntax").output.find("{0,number,0 EUR}"), std::string::npos);
+    const Outcome unknown = run("msglib explain-rule choice-qoute");
     EXPECT_EQ(unknown.output,
               "msglib: error: there is no rule choice-qoute; did you mean choice-quote?\n");
     EXPECT_EQ(unknown.status, 2);
 }
 
 TEST_F(CheckCommand, NeedsSomethingToCheck) {
-    EXPECT_EQ(run(PROGRAM " check").status, 2);
-    EXPECT_EQ(run(PROGRAM " check missing.mc").status, 2);
-    EXPECT_EQ(run(PROGRAM " check --lines missing").status, 2);
+    EXPECT_EQ(run("msglib check").status, 2);
+    EXPECT_EQ(run("msglib check missing.mc").status, 2);
+    EXPECT_EQ(run("msglib check --lines missing").status, 2);
 }
 
 // A build with mistakes prints each one with file, line, column, caret and rule.
 TEST_F(CheckCommand, StopsBuilds) {
     write("CMakeLists.txt", "cmake_minimum_required(VERSION 3.25)\n"
                             "project(wrong LANGUAGES CXX)\n"
-                            "include(" SOURCE_FOLDER "/cmake/MsglibCatalogue.cmake)\n"
+                            "include(\"" SOURCE_FOLDER "/cmake/MsglibCatalogue.cmake\")\n"
                             "add_library(app OBJECT app.cpp)\n"
                             "msglib_add_catalogue(app Messages.mc More.mc Utf16.mc)\n");
     write("app.cpp", "");
@@ -127,7 +125,7 @@ TEST_F(CheckCommand, StopsBuilds) {
         utf16 += {byte, '\0'};
     }
     write("Utf16.mc", utf16);
-    ASSERT_EQ(run("cmake -S . -B build -D MSGLIB_TOOL=" PROGRAM).status, 0);
+    ASSERT_EQ(run("cmake -S . -B build -D MSGLIB_TOOL=" + quoted(PROGRAM)).status, 0);
     const Outcome outcome = run("cmake --build build");
     EXPECT_NE(outcome.status, 0);
     for (const char* const line : {

@@ -10,6 +10,15 @@
 
 namespace zem::msglib::tool {
 
+/// Returns a text as one word of the shell.
+inline std::string quoted(const std::string& text) {
+    std::string word = "'";
+    for (const char byte : text) {
+        word += byte == '\'' ? "'\\''" : std::string(1, byte);
+    }
+    return word + "'";
+}
+
 /// The output of a program, and its exit status.
 struct Outcome {
     int status;
@@ -31,10 +40,13 @@ protected:
     }
     void TearDown() override { std::filesystem::remove_all(folder_); }
 
-    /// Runs a shell command in the folder.
+    /// Runs a shell command in the folder, with `msglib` on its path.
     Outcome run(const std::string& command) const {
         Outcome outcome{0, {}};
-        const std::string line = "{ cd '" + folder_.string() + "' && " + command + "\n} 2>&1";
+        const std::filesystem::path program(PROGRAM);
+        const std::string line = "{ cd " + quoted(folder_.string()) +
+                                 " && PATH=" + quoted(program.parent_path().string()) +
+                                 ":\"$PATH\" && " + command + "\n} 2>&1";
         FILE* const pipe = popen(line.c_str(), "r");
         for (int byte = std::fgetc(pipe); byte != EOF; byte = std::fgetc(pipe)) {
             outcome.output += static_cast<char>(byte);

@@ -21,7 +21,7 @@ const std::string wrong = "MessageId=1\n";
 class CompileCommandTest : public FolderTest {
 protected:
     Outcome compile(const std::string& arguments) const {
-        return run("'" PROGRAM "' compile " + arguments);
+        return run("msglib compile " + arguments);
     }
 };
 
@@ -86,13 +86,12 @@ TEST_F(CompileCommandTest, WritesAllFilesOrNone) {
         names += entry.path().filename().string() + " ";
     }
     EXPECT_EQ(names, "App.cpp ");
-    EXPECT_EQ(run("(ulimit -f 4; trap '' XFSZ; '" PROGRAM "' compile App.mc --output full)").status,
+    EXPECT_EQ(run("(ulimit -f 4; trap '' XFSZ; msglib compile App.mc --output full)").status,
               0); // fits
     write("App.mc", good + "MessageId=3 Severity=Error Facility=App\nLanguage=English\n" +
                         std::string(3000, 'x') + "\n.\n");
     const std::string before = read("full/App.cpp");
-    const Outcome full =
-        run("(ulimit -f 4; trap '' XFSZ; '" PROGRAM "' compile App.mc --output full)");
+    const Outcome full = run("(ulimit -f 4; trap '' XFSZ; msglib compile App.mc --output full)");
     EXPECT_EQ(full.status, 2);
     EXPECT_NE(full.output.find("File too large"), std::string::npos) << full.output;
     EXPECT_EQ(read("full/App.cpp"), before);
@@ -152,8 +151,8 @@ TEST_F(CompileCommandTest, HasTheExitStatusOfItsDiagnostics) {
         expect(outcome, row.status, row.words);
         EXPECT_EQ(outcome.output.empty(), row.words.empty()) << outcome.output;
     }
-    EXPECT_EQ(run("'" PROGRAM "'").status, 2);
-    EXPECT_EQ(run("'" PROGRAM "' --version").output.rfind("msglib ", 0), 0U);
+    EXPECT_EQ(run("msglib").status, 2);
+    EXPECT_EQ(run("msglib --version").output.rfind("msglib ", 0), 0U);
 }
 
 TEST_F(CompileCommandTest, WritesOneResourceScriptForAModule) {

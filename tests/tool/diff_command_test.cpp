@@ -14,9 +14,7 @@ std::string message(const std::string& head, const std::string& text) {
 
 class DiffCommandTest : public FolderTest {
 protected:
-    Outcome diff(const std::string& arguments) const {
-        return run("'" PROGRAM "' diff " + arguments);
-    }
+    Outcome diff(const std::string& arguments) const { return run("msglib diff " + arguments); }
 
     /// Compares two text files.
     Outcome diffOf(const std::string& before, const std::string& after) const {
@@ -82,7 +80,7 @@ TEST_F(DiffCommandTest, ReportsChangesAndWhetherTheyBreakCallers) {
 
 TEST_F(DiffCommandTest, ComparesTextsWithTables) {
     write("App.mc", "; @arg 0 who text\n" + message("1 SymbolicName=A", "Größe\n{0}"));
-    ASSERT_EQ(run("'" PROGRAM "' compile App.mc --output . --format rc").output, "");
+    ASSERT_EQ(run("msglib compile App.mc --output . --format rc").output, "");
     EXPECT_EQ(diff("App.mc messages_0409.bin").output, "no changes\n");
     EXPECT_EQ(diff("messages_0409.bin messages_0409.bin").output, "no changes\n");
     write("New.mc", message("1 SymbolicName=A", "Größe\n"));
@@ -97,7 +95,7 @@ TEST_F(DiffCommandTest, ComparesTextsWithTables) {
               std::string::npos);
     EXPECT_NE(diff("App.mc New.mc --color always").output.find("\x1B[1;31m  - {0}\x1B[0m\n"),
               std::string::npos);
-    EXPECT_EQ(run("cat App.mc | '" PROGRAM "' diff - App.mc").output, "no changes\n");
+    EXPECT_EQ(run("cat App.mc | msglib diff - App.mc").output, "no changes\n");
 }
 
 TEST_F(DiffCommandTest, RefusesFilesThatCannotBeRead) {

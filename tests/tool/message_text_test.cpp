@@ -97,7 +97,7 @@ protected:
                 fs::remove(entry.path());
             }
         }
-        if (run("'" WINDMC "' -C 65001 -O 65001 x.mc").status != 0) {
+        if (run(quoted(WINDMC) + " -C 65001 -O 65001 x.mc").status != 0) {
             return {};
         }
         std::map<std::uint32_t, std::string> tables;

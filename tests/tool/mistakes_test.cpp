@@ -135,8 +135,8 @@ TEST_F(MistakesTest, BuildPrintsOneDiagnosticForEach) {
     std::filesystem::copy(MISTAKES, source);
     write("source/App.mc", message("fine"));
     write("source/More.mc", fine);
-    const Outcome configured =
-        run("cmake -G Ninja -S source -B build -D ROOT='" ROOT "' -D MSGLIB_TOOL='" PROGRAM "'");
+    const Outcome configured = run("cmake -G Ninja -S source -B build -D ROOT=" + quoted(ROOT) +
+                                   " -D MSGLIB_TOOL=" + quoted(PROGRAM));
     ASSERT_EQ(configured.status, 0) << configured.output;
     for (const Mistake& mistake : mistakes) {
         SCOPED_TRACE(mistake.line);

@@ -221,7 +221,7 @@ TEST_F(QuoteCommandTest, PrintsTheSpellingAlone) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.line);
-        const Outcome outcome = run(std::string("'" PROGRAM "' quote ") + row.arguments);
+        const Outcome outcome = run(std::string("msglib quote ") + row.arguments);
         EXPECT_EQ(outcome.status, row.status);
         EXPECT_EQ(outcome.output, row.output);
     }

@@ -81,11 +81,11 @@ TEST_F(RenderCommand, ShowsMessages) {
         {__LINE__, "render", 2, "msglib: error: name a file or a --pattern\n"},
     };
     for (const CommandCase& row : cases) {
-        const Outcome outcome = run(std::string(PROGRAM " ") + row.words);
+        const Outcome outcome = run(std::string("msglib ") + row.words);
         EXPECT_EQ(outcome.output, row.output) << "line " << row.line;
         EXPECT_EQ(outcome.status, row.status) << "line " << row.line;
     }
-    const std::string all = run(PROGRAM " render App.mc").output;
+    const std::string all = run("msglib render App.mc").output;
     EXPECT_EQ(all.substr(0, std::string(english).size()), english);
     EXPECT_NE(all.find("\n\n0xC001012C, English\n  Plain.\n"), std::string::npos);
 }
@@ -114,7 +114,7 @@ TEST_F(RenderCommand, ShowsPatterns) {
          "msglib: error: --pattern takes the place of a file: there is nothing else to explain\n"},
     };
     for (const CommandCase& row : cases) {
-        const Outcome outcome = run(std::string(PROGRAM " ") + row.words);
+        const Outcome outcome = run(std::string("msglib ") + row.words);
         EXPECT_EQ(outcome.output, row.output) << "line " << row.line;
         EXPECT_EQ(outcome.status, row.status) << "line " << row.line;
     }
@@ -132,7 +132,7 @@ TEST_F(RenderCommand, ShowsFailuresAsTheLibraryReportsThem) {
         {__LINE__, "render --pattern '{0,choice,0#a|1#b}}' 1", 1, "unexpected closing brace\n"},
     };
     for (const CommandCase& row : cases) {
-        const Outcome outcome = run(std::string(PROGRAM " ") + row.words + " 2>errors");
+        const Outcome outcome = run(std::string("msglib ") + row.words + " 2>errors");
         EXPECT_EQ(outcome.output, row.output) << "line " << row.line;
         EXPECT_EQ(outcome.status, row.status) << "line " << row.line;
         EXPECT_NE(read("errors"), "") << "line " << row.line;
@@ -142,7 +142,7 @@ TEST_F(RenderCommand, ShowsFailuresAsTheLibraryReportsThem) {
 TEST_F(RenderCommand, ReportsErrorsOfTheFileAsTheCheckDoes) {
     write("Wrong.mc", "MessageId=1\nSymbolicName=A\nLanguage=English\n{0,choice,0#a|1#{x}} 'y'\n.\n"
                       "MessageId=2\nSymbolicName=B\nLanguage=English\nFine.\n.\n");
-    const Outcome outcome = run(PROGRAM " render Wrong.mc A 2>errors");
+    const Outcome outcome = run("msglib render Wrong.mc A 2>errors");
     EXPECT_EQ(outcome.output, "A (0x00000001), English\n"
                               "  0  a y\n"
                               "  1  fails: Illegal argument in format string\n");
@@ -153,8 +153,8 @@ TEST_F(RenderCommand, ReportsErrorsOfTheFileAsTheCheckDoes) {
     EXPECT_EQ(errors.find("warning"), std::string::npos);
 
     write("Broken.mc", "MessageId=1\nLanguage=English\nno end\n");
-    EXPECT_EQ(run(PROGRAM " render Broken.mc A 2>errors").status, 1);
-    EXPECT_EQ(run(PROGRAM " explain Broken.mc 2>errors").status, 1);
+    EXPECT_EQ(run("msglib render Broken.mc A 2>errors").status, 1);
+    EXPECT_EQ(run("msglib explain Broken.mc 2>errors").status, 1);
 }
 
 } // namespace

@@ -12,6 +12,9 @@
 #include <iomanip>
 #include <sstream>
 
+// A message with a choice, and one with a date and a time, rendered by the library and its rivals.
+// Rivals have no choices: the caller selects one of three patterns.
+
 namespace bench {
 
 namespace {

@@ -5,6 +5,9 @@
 #include <functional>
 #include <utility>
 
+// Static texts and placeholders go in, one after another. The pattern, the arguments and the
+// expected text come out, for the library and for {fmt}.
+
 namespace bench {
 
 namespace {

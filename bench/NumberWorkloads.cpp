@@ -17,6 +17,9 @@
 #include <sstream>
 #include <vector>
 
+// Each workload is a text with numbers. It is rendered by the library, one-shot and by a kept
+// object, and by each rival that can write it. Rivals without separators write a shorter text.
+
 namespace bench {
 
 namespace {

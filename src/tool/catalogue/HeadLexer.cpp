@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+// A text goes in, its tokens come out one by one, without the blanks, line ends and comments
+// between them. Comments are collected, since they may be instructions for the next message.
+
 namespace zem::msglib::tool {
 
 namespace {

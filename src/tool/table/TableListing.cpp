@@ -9,6 +9,9 @@
 
 #include <algorithm>
 
+// Tables go in, a listing comes out, for people or as JSON: for each message its identifier, the
+// parts of the identifier, and the text.
+
 namespace zem::msglib::tool {
 
 namespace {

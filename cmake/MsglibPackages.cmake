@@ -55,9 +55,8 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
     "The program that compiles message catalogues into modules, called by the\nCMake function msglib_add_catalogue.")
 
-# CPack writes these fields from version 3.31 on.
+# CPack writes these fields from version 3.31 on. The tool's package has none, because it exports a target of its processor.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_MULTIARCH same)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_MULTIARCH same)
-set(CPACK_DEBIAN_TOOLS_PACKAGE_MULTIARCH foreign)
 
 include(CPack)

@@ -65,6 +65,20 @@ TEST(AllocationCount, DirectRenderingAllocatesOnlyTheText) {
     }
 }
 
+TEST(AllocationCount, ManyPlaceholdersAllocateOnlyTheText) {
+    std::string pattern;
+    std::list<boost::any> args;
+    for (int index = 0; index < 100; ++index) {
+        pattern += "{" + std::to_string(index) + "}, ";
+        args.emplace_back(1234);
+    }
+    const MessageLibrary& library = MessageLibrary::instance();
+    const std::size_t before = allocations();
+    const std::string text = library.formatMessage(pattern, args);
+    EXPECT_EQ(allocations() - before, 1U);
+    EXPECT_EQ(text.size(), 100 * std::string("1,234, ").size());
+}
+
 TEST(AllocationCount, JoiningAllocatesInProportionToTheText) {
     constexpr std::size_t count = 1000;
     const std::string piece(1000, 'x');

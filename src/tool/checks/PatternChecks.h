@@ -10,7 +10,8 @@ namespace zem::msglib::tool {
 /// Reports everything that does not compile.
 void checkSyntax(const PatternTree& tree, Diagnostics& diagnostics);
 
-/// Reports placeholders whose index, type or style keyword has another meaning than it seems to have.
+/// Reports placeholders whose index, type or style keyword has another meaning than it seems to
+/// have.
 void checkPlaceholders(const PatternTree& tree, Diagnostics& diagnostics);
 
 /// Reports limits and texts of choices that are surely not meant.

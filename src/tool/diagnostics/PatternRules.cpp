@@ -53,9 +53,9 @@ const Rule timeStyle = {
     "time-style",
     Severity::warning,
     true,
-    "a style word that is read as a pattern",
-    "`time` has no style words, and the words of `number` and `date` are compared\n"
-    "exactly. Any other style is a pattern: `{0,date,Short}` shows \"S12orA\".",
+    "a style keyword that is read as a pattern",
+    "`time` has no style keywords, and those of `number` and `date` are compared exactly.\n"
+    "Any other style is a pattern: `{0,date,Short}` shows \"S12orA\".",
     "{0,time,short}",
     "{0,time,HH:mm}"};
 
@@ -125,7 +125,7 @@ const Rule noDigitMark = {
     true,
     "a decimal pattern without digit marks",
     "Only `#` and `0` mark where digits go. Without them, the digits are shown after the\n"
-    "text. Most such patterns are misspelt style words, or formats of other languages.",
+    "text. Most such patterns are misspelt keywords, or formats of other languages.",
     "{0,number,N2}",
     "{0,number,#,##0.00}"};
 

@@ -119,7 +119,7 @@ void appendBytes(std::string& out, std::string_view bytes) {
 /// the machine; the bytes of the table are not changed.
 void appendNote(std::string& out, std::uint32_t language, const std::string& table) {
     const std::size_t padded =
-        (layout::noteHeaderSize + table.size() + alignment - 1) / alignment * alignment;
+        (layout::tableHeaderSize + table.size() + alignment - 1) / alignment * alignment;
     out.reserve(out.size() + 2 * table.size()); // half of the bytes need three or four characters
     out += "asm(R\"asm(\n"
            "    .pushsection .note.zem.msgtab, \"a\", %note\n"

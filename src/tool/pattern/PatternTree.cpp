@@ -26,7 +26,7 @@ constexpr std::size_t fewLevels = 8;
 
 using Kind = SyntaxError::Kind;
 
-/// Returns whether the library reads a style as a pattern of its type and not as a style word.
+/// Returns whether the library reads a style as a pattern of its type and not as a style keyword.
 bool isCustom(std::string_view type, const PlaceholderStyle& style) noexcept {
     return style.build == PlaceholderStyle::of(type, "*").build;
 }

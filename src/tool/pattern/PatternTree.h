@@ -21,9 +21,9 @@ namespace zem::msglib::tool {
 enum class PlaceholderKind : std::uint8_t {
     Plain,        ///< no type: the kind of the argument decides
     Unknown,      ///< an unknown type, or a style without a type; both are ignored
-    Number,       ///< `number` with a style word, or without a style
+    Number,       ///< `number` with a style keyword, or without a style
     DecimalStyle, ///< `number` with a decimal pattern
-    Date,         ///< `date` or `time` with a style word, or without a style
+    Date,         ///< `date` or `time` with a style keyword, or without a style
     DateStyle,    ///< `date` or `time` with a date pattern
     Choice,
 };

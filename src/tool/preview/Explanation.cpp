@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <vector>
 
-// A pattern tree goes in, lines of English come out. The tree is visited in the order of the pattern:
-// static text, placeholders, and the entries of choices. The texts around the current one are kept
-// in frames, so the machine stack does not grow with the nesting of a pattern.
+// A pattern tree goes in, its description in English comes out. The tree is visited in the order of
+// the pattern: static text, placeholders, and the entries of choices. The texts around the current
+// one are kept in frames, so the machine stack does not grow with the nesting of a pattern.
 
 namespace zem::msglib::tool {
 
@@ -187,13 +187,13 @@ private:
     /// Writes a line of the innermost text.
     ///
     /// @param inside  additional levels of indentation
-    void line(std::size_t inside, const std::string& text) {
-        const std::size_t depth = this->text().depth;
+    void line(std::size_t inside, const std::string& content) {
+        const std::size_t depth = text().depth;
         out_.append(4 * std::min(depth, mostIndented) + 2 * inside, ' ');
         if (depth > mostIndented) {
             out_ += colours_.note("[level " + std::to_string(depth) + "] ");
         }
-        out_ += text;
+        out_ += content;
         out_ += '\n';
     }
 

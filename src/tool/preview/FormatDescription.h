@@ -14,7 +14,7 @@ struct FormatDescription {
     std::vector<std::string> details; ///< lines of their own
 };
 
-/// Describes any placeholder except a choice: the pattern of a style word, groups and digits of
+/// Describes any placeholder except a choice: the pattern of a style keyword, groups and digits of
 /// numbers, the fields of dates, each with an example that the library renders.
 FormatDescription describeFormat(const Placeholder& placeholder);
 

@@ -136,11 +136,11 @@ private:
         const Bytes content = Bytes(bytes_.data(), bytes_.size()).part(offset, size);
         const std::uint32_t language = numberAt(content, 0);
         const std::uint32_t length = numberAt(content, 4);
-        if (!content.holds(layout::noteHeaderSize, length)) {
+        if (!content.holds(layout::tableHeaderSize, length)) {
             refuse("a table of messages is longer than its note");
         }
         try {
-            TableTexts texts = decodeTable(content.part(layout::noteHeaderSize, length));
+            TableTexts texts = decodeTable(content.part(layout::tableHeaderSize, length));
             tables_[language].merge(texts); // this keeps the first text of each message
         } catch (const BrokenTable& broken) {
             throw CannotRun(name_ + ": the table of messages in the language " +

@@ -8,7 +8,7 @@ namespace zem::msglib::platform {
 
 namespace {
 
-constexpr std::size_t elfHeaderSize = 12; // the sizes of name and content, and the type
+constexpr std::size_t noteHeaderSize = 12; // the sizes of name and content, and the type
 
 /// Reads a number in the byte order of the machine, in which the assembler writes it.
 std::uint32_t nativeU32(Bytes bytes, std::size_t offset) noexcept {
@@ -26,10 +26,10 @@ bool isTable(Bytes name, std::uint32_t type) noexcept {
 
 MessageText findInTable(Bytes descriptor, std::uint32_t languageId,
                         std::uint32_t messageId) noexcept {
-    if (!descriptor.holds(0, layout::noteHeaderSize) || nativeU32(descriptor, 0) != languageId) {
+    if (!descriptor.holds(0, layout::tableHeaderSize) || nativeU32(descriptor, 0) != languageId) {
         return {};
     }
-    const Bytes table = descriptor.part(layout::noteHeaderSize, nativeU32(descriptor, 4));
+    const Bytes table = descriptor.part(layout::tableHeaderSize, nativeU32(descriptor, 4));
     return TableReader(table).find(messageId);
 }
 
@@ -45,12 +45,12 @@ MessageText findInNotes(Bytes notes, std::size_t alignment, std::uint32_t langua
         const Bytes rest = notes.from(static_cast<std::size_t>(offset));
         const std::uint32_t nameSize = nativeU32(rest, 0);
         const std::uint32_t descriptorSize = nativeU32(rest, 4);
-        const std::uint64_t descriptorAt = aligned(elfHeaderSize + std::uint64_t{nameSize});
+        const std::uint64_t descriptorAt = aligned(noteHeaderSize + std::uint64_t{nameSize});
         const std::uint64_t end = descriptorAt + descriptorSize;
         if (end > rest.size()) {
             return {};
         }
-        if (isTable(rest.part(elfHeaderSize, nameSize), nativeU32(rest, 8))) {
+        if (isTable(rest.part(noteHeaderSize, nameSize), nativeU32(rest, 8))) {
             const Bytes descriptor =
                 rest.part(static_cast<std::size_t>(descriptorAt), descriptorSize);
             const MessageText text = findInTable(descriptor, languageId, messageId);

@@ -15,6 +15,8 @@ constexpr std::uint16_t utf16Flag = 1;
 /// The name of a note, whose size includes the terminator.
 constexpr char noteName[] = "zem.msglib";
 constexpr std::uint32_t noteType = 0x4d544231;
-constexpr std::size_t noteHeaderSize = 8;
+
+/// Language and size, which come before the table in a note.
+constexpr std::size_t tableHeaderSize = 8;
 
 } // namespace zem::msglib::platform::layout
